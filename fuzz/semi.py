@@ -1,0 +1,44 @@
+#!/usr/bin/env python3
+# semi.py - writes the seeds of the fuzzers from the example files of the tests.
+
+"""Writes the seeds of the fuzzers from the example files of the tests (prove/dati/buoni/*.hex).
+
+Run it again after an example has changed:  python3 fuzz/semi.py
+"""
+import pathlib
+
+QUI = pathlib.Path(__file__).resolve().parent
+BUONI = QUI.parent / "prove" / "dati" / "buoni"
+
+
+def da_esadecimale(testo: str) -> bytes:
+    """Two-digit hex bytes; "00*72" is a byte repeated 72 times; "#" begins a comment."""
+    byte = bytearray()
+    for riga in testo.splitlines():
+        for parola in riga.split("#")[0].split():
+            valore, _, volte = parola.partition("*")
+            byte += bytes.fromhex(valore) * int(volte or 1)
+    return bytes(byte)
+
+
+def scrivi(fuzzer: str, nome: str, byte: bytes) -> None:
+    cartella = QUI / "semi" / fuzzer
+    cartella.mkdir(parents=True, exist_ok=True)
+    (cartella / nome).write_bytes(byte)
+
+
+def main() -> None:
+    sistema = da_esadecimale((BUONI / "sistema.hex").read_text())
+    colonne = da_esadecimale((BUONI / "colonne.hex").read_text())
+    parte = sistema[: sistema.index(b"COLONNE")]
+    scrivi("file_sistema", "senza_condizioni", parte[:317])
+    scrivi("file_sistema", "una_condizione", parte)
+    scrivi("file_sistema", "due_condizioni", parte + parte[317:])
+    scrivi("file_sistema", "con_colonne", sistema)
+    scrivi("file_colonne", "con_colonne", sistema)
+    scrivi("file_colonne", "senza_colonne", parte)
+    scrivi("file_colonne", "sole_colonne", b"COLONNE" + colonne)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,234 @@
+// Ordavel.hpp - the component: a conditioned system, its controls, its runs and its files.
+//
+// It needs no screen. A host creates it over a Piattaforma, sets its folders, states a system and runs it:
+//
+//     ordavel::Ordavel sistema(piattaforma);
+//     sistema.PoniPercorsoTemp("/tmp/ordavel");
+//     for (std::int16_t n = 1; n <= 20; ++n) sistema.SelezionaNumero(n, true);
+//     sistema.GetGridCond().Riga(1) = {"Peso", "Caselle :\r\n1-2-3-4-5", "100-150", "-", " "};
+//     sistema.GestSviluppo();
+//     std::vector<ordavel::Colonna> aColonne;
+//     sistema.GetColonneSviluppo(aColonne);
+//
+// Everything runs on one thread. A run lets pending events run at each refresh; the one command that may arrive
+// there is Stop(), and any other that starts a run, opens or saves is refused and does nothing.
+//
+// Failures of file work are shown as boxes and cleared. Operations without a handler of their own pass them on as
+// Errore; each says so.
+
+#pragma once
+
+#include "ordavel/Controlli.hpp"
+#include "ordavel/GrigliaCondizioni.hpp"
+#include "ordavel/Piattaforma.hpp"
+#include "ordavel/StatoSviluppo.hpp"
+#include "ordavel/esporta.hpp"
+
+#include <string>
+#include <vector>
+
+namespace ordavel {
+
+class FileBinario;
+
+/// The controls of the component, by their names.
+struct ControlliOrdavel {
+    Combo CmbTipoGioco;
+    Combo CmbClasse;
+    Combo CmbRid;
+    Combo CmbMotSviluppo;
+    Etichetta LabIntegrale;    ///< columns of the whole system, or of the file to be filtered
+    Etichetta LabSviluppate;   ///< columns examined
+    Etichetta LabCondizionate; ///< columns kept
+    Etichetta LabNumSel;       ///< count of picks
+    Etichetta LabGaranzia;     ///< the guarantee in words
+    Barra ProgBarXP1;          ///< 0 to 100
+    Controllo PanSviluppo;     ///< visible during a run
+    BarraStrumenti Toolbar2;   ///< keys, tips and menus
+    SelettoreNumeri SelnovoNumeri1;
+    Lista LbQuadroRec; ///< the recovery board, a line "minimum,maximum,flag" per group from 1
+};
+
+class ORDAVEL_EXPORT Ordavel {
+public:
+    /// Lays out an empty system of "Lotto" in class 5, without reduction, for the internal engine.
+    /// Takes    piattaforma   outlives the component
+    explicit Ordavel(Piattaforma& piattaforma);
+    Ordavel(const Ordavel&) = delete;
+    Ordavel& operator=(const Ordavel&) = delete;
+    ~Ordavel();
+
+    // ---- folders and settings ----
+
+    /// Folder setters create the folder and add the separator at its end. When it cannot be created they show
+    /// "Errore creazione percorso " and the path, and change nothing.
+    /// Gives    whether the folder was taken
+    bool PoniDirSistemi(const std::string& sPercorso);
+    bool PoniPercorsoTemp(
+        const std::string& sPercorso); ///< also sets the working column file, "Sviluppo.col" in it
+    bool PoniPercorsoSalvaColonne(const std::string& sPercorso);
+    [[nodiscard]] const std::string& DirSistemi() const noexcept { return m_DirSistemi; }
+    [[nodiscard]] const std::string& PercorsoTemp() const noexcept { return m_PercorsoTemp; }
+    [[nodiscard]] const std::string& PercorsoSalvaColonne() const noexcept { return m_PercorsoSalvaColonne; }
+
+    /// The engine of the next development. The combo is not touched; SelezionaComboMotSviluppo brings it in line.
+    void PoniMotoreSviluppo(eMotoreSviluppo motore) noexcept { m_MotoreSviluppo = motore; }
+    [[nodiscard]] eMotoreSviluppo MotoreSviluppo() const noexcept { return m_MotoreSviluppo; }
+    void SelezionaComboMotSviluppo();
+
+    /// Numbers per column, as the list of classes shows it; 0 when none is selected.
+    [[nodiscard]] std::int16_t classe() const;
+    /// Selects a class; one that is not in the list changes nothing.
+    void PoniClasse(std::int16_t nClasse);
+
+    /// The reduction, "Rid N-K", as its list shows it; 0 for the blank entry and for none.
+    [[nodiscard]] std::int16_t Riduzione() const;
+
+    /// The game: index 0 to 4 in its list, and its name.
+    [[nodiscard]] std::int16_t GetIdCmbTipoGioco() const;
+    [[nodiscard]] std::string GetIdCmbTipoGiocoString() const;
+
+    /// Columns of the selected class over the selected numbers; 0 for fewer numbers than the class.
+    /// Fails    11: no class is selected
+    [[nodiscard]] double ColonneIntegrali() const;
+
+    // ---- the system ----
+
+    /// Selects a number or not.
+    /// Fails    9: nNumero outside 1..90
+    void SelezionaNumero(std::int16_t nNumero, bool bSelezionato);
+    [[nodiscard]] std::int32_t ContaNumeriSel() const;
+    /// The selected numbers in ascending order, 0 behind the last.
+    [[nodiscard]] NumeriScelti GetNumeriSel() const;
+
+    /// The conditions and the board themselves: what is written there counts.
+    [[nodiscard]] GrigliaCondizioni& GetGridCond() noexcept { return m_GrdCond; }
+    [[nodiscard]] Lista& GetLbQuadroRec() noexcept { return m_Controlli.LbQuadroRec; }
+    /// Selects a condition.
+    /// Fails    9: nId outside 0..2000
+    void SetColonnaGrid(std::int32_t nId);
+
+    /// Is there a condition of that key, letters without regard to case?
+    [[nodiscard]] bool IsCondizionePresente(std::string_view sNome) const;
+
+    /// Compiles the conditions and looks at their links; shows "Link non valide" when they do not match.
+    /// Fails    what compiling raises
+    [[nodiscard]] bool VerificaCoerenzaLink();
+
+    // ---- runs ----
+
+    /// Develops the picks into the working column file.
+    ///
+    /// Refused with a warning when there are fewer numbers than the class, or links do not match, and with the
+    /// failure box when the working file cannot be deleted. During the run the panel is visible and Stop is the only command; at the end a box tells the time.
+    /// Gives    true when the run was begun, also when it was stopped or failed on its way
+    /// Fails    11: no class is selected; what compiling the links and reading the emulated draws raise
+    bool GestSviluppo();
+
+    /// Puts the conditions over the columns of a file; the result goes to the working column file, which may be
+    /// the source: it is then moved aside to its name plus ".old". A file without columns is passed over.
+    bool GestSviluppoDaFileColonne(const std::string& sFileColonne);
+
+    /// The stop command: asks "Interrompere ?", and on yes the run ends at its next refresh.
+    void Stop();
+
+    /// What the last run compiled and counted.
+    [[nodiscard]] const StatoSviluppo& UltimoSviluppo() const noexcept { return m_Stato; }
+
+    // ---- columns ----
+
+    /// Columns in the working file, rounded; 0 for none.
+    [[nodiscard]] std::int32_t QuantitaColonne();
+
+    /// All columns of the working file.
+    /// Gives    always false; what counts is the array: the columns, or one record of zeros when there are none.
+    ///          Beyond 1000000 columns a warning is shown and the rest is left out.
+    bool GetColonneSviluppo(std::vector<Colonna>& aRetCol);
+
+    /// One column as text, from 1; empty beyond the end.
+    [[nodiscard]] std::string GetColonnaSviluppo(std::int32_t nId);
+    /// The same from a file that is already open. A place beyond 2^31 bytes is failure 6, shown as a box.
+    [[nodiscard]] std::string GetColonnaSviluppoFromFile(std::int32_t nId, FileBinario& file);
+
+    /// Asks for a name and copies the working file there.
+    /// Gives    true when it was copied
+    bool SalvaFileColonne();
+
+    // ---- the system file ----
+
+    /// Writes the system, and its columns when they belong to it.
+    ///
+    /// The whole system part is made before an older file is deleted.
+    /// Takes    sFile              path; when empty it is asked for, and the answer is also the open system's name
+    ///          bAzzeraModificato  the system counts as saved from now on
+    /// Gives    true when it was written; failures are shown under "OrdavelSis.Salva"
+    bool Salva(std::string& sFile, bool bAzzeraModificato);
+
+    /// Asks for a system file and loads it, with its columns.
+    /// Gives    true when it was loaded; failures are shown under "OrdavelSis.Apri"
+    bool Apri();
+
+    [[nodiscard]] const std::string& FileSistema() const noexcept { return m_FileSistema; }
+    [[nodiscard]] const std::string& FileColonne() const noexcept { return m_FileColonne; }
+    [[nodiscard]] bool Modificato() const noexcept { return m_Modificato; }
+    [[nodiscard]] bool ColonneValide() const noexcept { return m_ColonneValide; }
+
+    /// The controls, for a view to bind and a test to press.
+    [[nodiscard]] ControlliOrdavel& Controlli() noexcept { return m_Controlli; }
+
+private:
+    class AvanzamentoPannello;
+    class CorsaInVista;
+
+    bool PoniPercorso(const std::string& sPercorso, std::string& sCampo);
+
+    // Changes of the controls.
+    void LayOutGrid();
+    void ImpostaProfiloGioco();
+    void CambioClasse();
+    void CambioRiduzione();
+    void CambioMotore();
+    void CambioNumeri();
+    void PulisciEtichette();
+    void AbilitaComandiSviluppo(bool bInCorso);
+    void AggiornaComandiColonne();
+
+    // Runs.
+    void MostraFineSviluppo(float nInizio);
+    void CaricaEmulatore();
+    void PreparaCorsa();
+    void SviluppaCondizionato();
+    void SviluppaCondizionatoEsterno();
+    void SviluppaCondizionatoDaFileColonne(const std::string& sFileColonne);
+
+    // Columns.
+    void ApriFileColonne(const std::string& sFile);
+    void ApriColonne(FileBinario& sistema);
+    void AppendiColonneAFileSistema(FileBinario& sistema);
+
+    // System file.
+    void ScriviSistema(const std::string& sFile);
+    bool LeggiSistema();
+    void ImpostaNumeriDaFile(const Tabella<Booleano, 1, kNumeroMassimo>& aNumeri);
+    [[nodiscard]] Tabella<Booleano, 1, kNumeroMassimo> LeggiNumeriSelezionati() const;
+    void Avvisa(std::string_view sTesto);
+
+    Piattaforma& m_Piattaforma;
+    ControlliOrdavel m_Controlli;
+    GrigliaCondizioni m_GrdCond;
+    StatoSviluppo m_Stato;
+
+    std::string m_FileSistema;
+    std::string m_FileColonne;
+    std::string m_PercorsoTemp;
+    std::string m_PercorsoSalvaColonne;
+    std::string m_DirSistemi;
+    eMotoreSviluppo m_MotoreSviluppo = eMotoreSviluppo::interno;
+    double m_ColonneDaFiltrare = 0; ///< columns of the run, the base of an external run's percentage
+    bool m_Modificato = false;
+    bool m_ColonneValide = false;
+    bool m_bInCorso = false;               ///< a run is on its way
+    bool m_bFiltroPrimaDellaCorsa = false; ///< whether "FiltraSvilPrec" was enabled before the run
+};
+
+} // namespace ordavel

@@ -1,0 +1,76 @@
+// Piattaforma.hpp - what the system asks of a desktop.
+//
+// The one way by which logic reaches a user: message boxes, file dialogs, pending events, pointer, clock. A window
+// system, the command line and the tests each bring their own.
+
+#pragma once
+
+#include "ordavel/errore.hpp"
+#include "ordavel/esporta.hpp"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace ordavel {
+
+enum class eIcona : std::uint8_t { nessuna, critico, avviso, informazione, domanda };
+enum class ePulsanti : std::uint8_t { ok, siNo };
+enum class eRisposta : std::uint8_t { ok, si, no };
+
+/// A message box.
+struct Messaggio {
+    eIcona icona = eIcona::nessuna;
+    std::string sTitolo; ///< empty for none of its own
+    std::string sTesto;
+    ePulsanti pulsanti = ePulsanti::ok;
+};
+
+/// A dialog for the name of a file.
+struct RichiestaFile {
+    std::string sTitolo;
+    std::string sFiltro;     ///< description and pattern joined by "|": "File colonne (*.col)|*.col"
+    std::string sEstensione; ///< default extension, with its "."
+    std::string sNomeFile;   ///< name shown at the start
+    std::string sCartella;   ///< folder shown at the start
+};
+
+class ORDAVEL_EXPORT Piattaforma : public Segnalatore {
+public:
+    /// Shows a box and waits for its answer: `ok`, or `si` or `no` where these are asked for.
+    virtual eRisposta MostraMessaggio(const Messaggio& messaggio) = 0;
+
+    /// Ask for a file to read, or to write.
+    /// Gives    its path; empty when the user gave up
+    virtual std::string DialogoApri(const RichiestaFile& richiesta) = 0;
+    virtual std::string DialogoSalva(const RichiestaFile& richiesta) = 0;
+
+    /// Lets pending events run. Commands may arrive inside.
+    virtual void LasciaEventi() = 0;
+
+    /// Shows the busy pointer, or the normal one again. Calls come in pairs, and pairs nest.
+    virtual void PuntatoreOccupato(bool bOccupato) = 0;
+
+    /// Seconds since midnight, local time, with fractions.
+    [[nodiscard]] virtual float SecondiDaMezzanotte() = 0;
+
+    /// The failure box: critical, titled with the operation that trapped the failure.
+    void MostraFallimento(std::string_view sOrigine, const Errore& errore) override;
+};
+
+/// The busy pointer for as long as it lives.
+class PuntatoreInAttesa {
+public:
+    explicit PuntatoreInAttesa(Piattaforma& piattaforma) : m_Piattaforma(piattaforma)
+    {
+        m_Piattaforma.PuntatoreOccupato(true);
+    }
+    PuntatoreInAttesa(const PuntatoreInAttesa&) = delete;
+    PuntatoreInAttesa& operator=(const PuntatoreInAttesa&) = delete;
+    ~PuntatoreInAttesa() { m_Piattaforma.PuntatoreOccupato(false); }
+
+private:
+    Piattaforma& m_Piattaforma;
+};
+
+} // namespace ordavel

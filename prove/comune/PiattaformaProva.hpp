@@ -1,0 +1,178 @@
+// PiattaformaProva.hpp - a desktop played by a test: a script of answers, a record of all that was shown.
+//
+// Every question and every file dialog takes the next answer of its script; one that finds none fails the test,
+// and so does an answer that nobody asked for, a box that no test looked at, or a pointer left busy.
+
+#pragma once
+
+#include "ordavel/Piattaforma.hpp"
+
+#include <gmock/gmock.h>
+
+#include <deque>
+#include <functional>
+#include <initializer_list>
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace ordavel {
+
+[[nodiscard]] inline bool operator==(const Messaggio& uno, const Messaggio& due)
+{
+    return uno.icona == due.icona && uno.sTitolo == due.sTitolo && uno.sTesto == due.sTesto &&
+           uno.pulsanti == due.pulsanti;
+}
+
+inline std::ostream& operator<<(std::ostream& uscita, const Messaggio& m)
+{
+    return uscita << "{icona " << static_cast<int>(m.icona) << ", \"" << m.sTitolo << "\", \"" << m.sTesto
+                  << "\", pulsanti " << static_cast<int>(m.pulsanti) << "}";
+}
+
+[[nodiscard]] inline bool operator==(const RichiestaFile& uno, const RichiestaFile& due)
+{
+    return uno.sTitolo == due.sTitolo && uno.sFiltro == due.sFiltro && uno.sEstensione == due.sEstensione &&
+           uno.sNomeFile == due.sNomeFile && uno.sCartella == due.sCartella;
+}
+
+inline std::ostream& operator<<(std::ostream& uscita, const RichiestaFile& r)
+{
+    return uscita << "{\"" << r.sTitolo << "\", \"" << r.sFiltro << "\", \"" << r.sEstensione << "\", \""
+                  << r.sNomeFile << "\", \"" << r.sCartella << "\"}";
+}
+
+} // namespace ordavel
+
+namespace ordavel::prove {
+
+/// A warning, which has no title of its own.
+inline Messaggio Avviso(std::string_view sTesto)
+{
+    return {.icona = eIcona::avviso, .sTitolo = {}, .sTesto = std::string(sTesto), .pulsanti = ePulsanti::ok};
+}
+
+/// A question with yes and no.
+inline Messaggio Domanda(std::string_view sTesto)
+{
+    return {
+        .icona = eIcona::domanda, .sTitolo = {}, .sTesto = std::string(sTesto), .pulsanti = ePulsanti::siNo};
+}
+
+/// The box of a failure.
+inline Messaggio Fallimento(std::string_view sOrigine, const Errore& errore)
+{
+    return {.icona = eIcona::critico,
+            .sTitolo = std::string(sOrigine),
+            .sTesto = TestoFallimento(errore),
+            .pulsanti = ePulsanti::ok};
+}
+
+/// A file dialog that was shown.
+struct DialogoFile {
+    bool bSalva = false;
+    RichiestaFile richiesta;
+
+    [[nodiscard]] friend bool operator==(const DialogoFile&, const DialogoFile&) = default;
+    friend std::ostream& operator<<(std::ostream& uscita, const DialogoFile& d)
+    {
+        return uscita << (d.bSalva ? "salva " : "apri ") << d.richiesta;
+    }
+};
+
+class PiattaformaProva : public Piattaforma {
+public:
+    PiattaformaProva() = default;
+    PiattaformaProva(const PiattaformaProva&) = delete;
+    PiattaformaProva& operator=(const PiattaformaProva&) = delete;
+    ~PiattaformaProva() override
+    {
+        EXPECT_THAT(m_aMessaggi, testing::IsEmpty()) << "finestre che nessuno ha guardato";
+        EXPECT_THAT(m_aRisposte, testing::IsEmpty()) << "risposte che nessuno ha chiesto";
+        EXPECT_THAT(m_aFile, testing::IsEmpty()) << "file che nessuno ha chiesto";
+        EXPECT_EQ(m_nOccupato, 0) << "puntatore lasciato in attesa";
+    }
+
+    /// The answer to the next question.
+    void Rispondi(eRisposta risposta) { m_aRisposte.push_back(risposta); }
+
+    /// The answer to the next file dialog; empty to give up.
+    void Scegli(std::string sFile) { m_aFile.push_back(std::move(sFile)); }
+
+    /// What the clock shows at its next readings; the last time stays.
+    void Orologio(std::initializer_list<float> aSecondi) { m_aSecondi = aSecondi; }
+
+    /// The boxes since the last call, in their order.
+    [[nodiscard]] std::vector<Messaggio> Messaggi() { return std::exchange(m_aMessaggi, {}); }
+
+    /// The file dialogs since the last call, in their order.
+    [[nodiscard]] std::vector<DialogoFile> Dialoghi() { return std::exchange(m_aDialoghi, {}); }
+
+    [[nodiscard]] bool Occupato() const { return m_nOccupato > 0; }
+
+    eRisposta MostraMessaggio(const Messaggio& messaggio) override
+    {
+        m_aMessaggi.push_back(messaggio);
+        return messaggio.pulsanti == ePulsanti::ok ? eRisposta::ok
+                                                   : Prossima(m_aRisposte, eRisposta::no, messaggio);
+    }
+
+    std::string DialogoApri(const RichiestaFile& richiesta) override { return Chiedi({false, richiesta}); }
+    std::string DialogoSalva(const RichiestaFile& richiesta) override { return Chiedi({true, richiesta}); }
+
+    void LasciaEventi() override
+    {
+        ++nEventi;
+        if (eventi) {
+            eventi();
+        }
+    }
+
+    void PuntatoreOccupato(bool bOccupato) override
+    {
+        m_nOccupato += bOccupato ? 1 : -1;
+        EXPECT_GE(m_nOccupato, 0) << "puntatore liberato senza essere in attesa";
+    }
+
+    float SecondiDaMezzanotte() override
+    {
+        const float nSecondi = m_aSecondi.front();
+        if (m_aSecondi.size() > 1) {
+            m_aSecondi.pop_front();
+        }
+        return nSecondi;
+    }
+
+    std::function<void()> eventi; ///< what happens whenever events are let run
+    int nEventi = 0;              ///< how often they were
+
+private:
+    std::string Chiedi(const DialogoFile& dialogo)
+    {
+        m_aDialoghi.push_back(dialogo);
+        return Prossima(m_aFile, std::string(), dialogo);
+    }
+
+    template <typename Risposta, typename Domanda>
+    static Risposta Prossima(std::deque<Risposta>& aCopione, Risposta senza, const Domanda& domanda)
+    {
+        if (aCopione.empty()) {
+            ADD_FAILURE() << "nessuna risposta per " << domanda;
+            return senza;
+        }
+        Risposta risposta = std::move(aCopione.front());
+        aCopione.pop_front();
+        return risposta;
+    }
+
+    std::vector<Messaggio> m_aMessaggi;
+    std::vector<DialogoFile> m_aDialoghi;
+    std::deque<eRisposta> m_aRisposte;
+    std::deque<std::string> m_aFile;
+    std::deque<float> m_aSecondi{0};
+    int m_nOccupato = 0;
+};
+
+} // namespace ordavel::prove

@@ -1,0 +1,67 @@
+// Sessione.hpp - one component for one command: its desktop, its folder, its files written safely.
+
+#pragma once
+
+#include "ordavel/Ordavel.hpp"
+
+#include "cli/PiattaformaCli.hpp"
+
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace ordavel::cli {
+
+/// A folder of the process's own inside another one, gone at the end.
+class CartellaPrivata {
+public:
+    /// Takes    sBase   the folder that it stands in, made when it is missing; empty for the system's temporary one
+    /// Fails    57, 61, 70, 75, 76: it cannot be made
+    explicit CartellaPrivata(const std::string& sBase);
+    CartellaPrivata(const CartellaPrivata&) = delete;
+    CartellaPrivata& operator=(const CartellaPrivata&) = delete;
+    ~CartellaPrivata();
+
+    [[nodiscard]] const std::string& Path() const noexcept { return m_sPath; }
+
+private:
+    std::string m_sPath;
+};
+
+/// A component with its desktop and working folder.
+class Sessione {
+public:
+    /// Takes    bBarra   whether a progress bar may be drawn
+    explicit Sessione(bool bBarra);
+
+    [[nodiscard]] PiattaformaCli& Desktop() noexcept { return m_Piattaforma; }
+    [[nodiscard]] ordavel::Ordavel& Sistema() noexcept { return m_Ordavel; }
+
+    /// Opens a system file. The columns that it carries go to a private folder, and so does all else that a run
+    /// writes: two runs never meet, and what the user has in sTemp stays. Emulated draws that stand in sTemp are
+    /// taken along.
+    /// Takes    sTemp   folder of the private one; empty for the system's temporary one
+    /// Gives    whether it is open, and wholly
+    /// Fails    as CartellaPrivata does, and as copying a file does
+    bool Apri(const std::string& sFile, const std::string& sTemp);
+
+private:
+    std::optional<CartellaPrivata> m_Cartella;
+    PiattaformaCli m_Piattaforma;
+    ordavel::Ordavel m_Ordavel;
+};
+
+/// Can a file be written at that path? Looked at before the work is done, so that an hour of it is not lost.
+/// Takes    sIngresso   a file that the work reads and that must not be lost to it
+/// Fails    5: no name, or the file to be read; 75: the path is no regular file; 70: it may not be written;
+///          70, 76, 61: no file can be made in its folder
+void ControllaUscita(const std::string& sFile, const std::string& sIngresso);
+
+/// Has `scrivi` write a new file beside sFile and, when it says that it did, puts it in the place of the old one
+/// in one step. Otherwise the old one stays as it was. A link stays one: the file behind it is replaced.
+/// Gives    whether the new file is in place
+/// Fails    as renaming does
+bool ScriviAlPosto(PiattaformaCli& desktop, const std::string& sFile,
+                   const std::function<bool(const std::string& sProvvisorio)>& scrivi);
+
+} // namespace ordavel::cli

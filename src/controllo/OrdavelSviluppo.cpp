@@ -1,0 +1,224 @@
+// OrdavelSviluppo.cpp - the development driver: what stands between a command and the engines.
+
+#include "ordavel/Ordavel.hpp"
+
+#include "core/ModFunzGeneriche.hpp"
+#include "core/ModGestore.hpp"
+#include "core/ModNumeri.hpp"
+#include "core/ModTesti.hpp"
+#include "emulatore/ModEmulatore.hpp"
+#include "motore/ModIntegrali.hpp"
+#include "motore/ModSistemiCond.hpp"
+#include "persistenza/ModFileColonne.hpp"
+
+#include <cmath>
+#include <filesystem>
+#include <system_error>
+
+namespace ordavel {
+
+namespace {
+
+constexpr float kSecondiAlGiorno = 86400;
+
+/// Moves the source aside when it is the destination itself, however its path is written. Whether case counts is
+/// for the file system to say.
+std::string MettiDaParte(const std::string& sOrigine, const std::string& sDestinazione,
+                         Segnalatore& segnalatore)
+{
+    std::error_code codice;
+    if (!std::filesystem::equivalent(sOrigine, sDestinazione, codice)) {
+        return sOrigine;
+    }
+    std::string sVecchio = sDestinazione + ".old";
+    KillFile(sVecchio, segnalatore);
+    std::filesystem::rename(sDestinazione, sVecchio, codice);
+    if (codice) {
+        throw ErroreDiSistema(codice.value(), sDestinazione);
+    }
+    return sVecchio;
+}
+
+} // namespace
+
+/// A run's refreshes, on labels and bar.
+class Ordavel::AvanzamentoPannello : public Avanzamento {
+public:
+    explicit AvanzamentoPannello(Ordavel& ordavel) : m_Ordavel(ordavel) {}
+
+    void Mostra(std::int32_t nSviluppate, std::int32_t nCondizionate, std::int16_t nPercentuale) override
+    {
+        m_Ordavel.m_Controlli.LabSviluppate.Testo.Poni(FormattaNumero(nSviluppate));
+        m_Ordavel.m_Controlli.LabCondizionate.Testo.Poni(FormattaNumero(nCondizionate));
+        m_Ordavel.m_Controlli.ProgBarXP1.Valore.Poni(nPercentuale);
+    }
+
+    void LasciaEventi() override { m_Ordavel.m_Piattaforma.LasciaEventi(); }
+
+    void MostraFallimento(std::string_view sOrigine, const Errore& errore) override
+    {
+        m_Ordavel.m_Piattaforma.MostraFallimento(sOrigine, errore);
+    }
+
+private:
+    Ordavel& m_Ordavel;
+};
+
+/// The panel of a run is visible, and no second run may begin, for as long as it lives.
+class Ordavel::CorsaInVista {
+public:
+    explicit CorsaInVista(Ordavel& ordavel) : m_Ordavel(ordavel)
+    {
+        m_Ordavel.m_bInCorso = true;
+        m_Ordavel.m_Controlli.ProgBarXP1.Valore.Poni(0);
+        m_Ordavel.m_Controlli.PanSviluppo.Visibile.Poni(true);
+    }
+    CorsaInVista(const CorsaInVista&) = delete;
+    CorsaInVista& operator=(const CorsaInVista&) = delete;
+    ~CorsaInVista()
+    {
+        m_Ordavel.m_Controlli.PanSviluppo.Visibile.Poni(false);
+        m_Ordavel.m_bInCorso = false;
+        // A run that failed on its way has deleted the working file all the same.
+        m_Ordavel.AggiornaComandiColonne();
+    }
+
+private:
+    Ordavel& m_Ordavel;
+};
+
+bool Ordavel::GestSviluppo()
+{
+    if (m_bInCorso) {
+        return false;
+    }
+    if (classe() > ContaNumeriSel()) {
+        Avvisa("Impostare il pronostico");
+        return false;
+    }
+    if (!VerificaCoerenzaLink()) {
+        return false;
+    }
+    m_FileColonne = m_PercorsoTemp + "Sviluppo.col";
+    // Columns go behind what a file holds: one that cannot be deleted would mix two results.
+    if (!KillFile(m_FileColonne, m_Piattaforma)) {
+        return false;
+    }
+    const CorsaInVista corsa(*this);
+    m_Piattaforma.LasciaEventi();
+    m_ColonneDaFiltrare =
+        CalcolaIntegrali(LeggiIntero<std::int32_t>(m_Controlli.LabNumSel.Testo.Valore()), classe());
+    const float nInizio = m_Piattaforma.SecondiDaMezzanotte();
+    if (m_MotoreSviluppo == eMotoreSviluppo::interno) {
+        CaricaEmulatore();
+        SviluppaCondizionato();
+    } else {
+        SviluppaCondizionatoEsterno();
+    }
+    m_Controlli.Toolbar2.Pulsante("FiltraSvilPrec").Abilitato.Poni(true);
+    AggiornaComandiColonne();
+    MostraFineSviluppo(nInizio);
+    return true;
+}
+
+bool Ordavel::GestSviluppoDaFileColonne(const std::string& sFileColonne)
+{
+    if (m_bInCorso) {
+        return false;
+    }
+    m_ColonneDaFiltrare = NumeroColonneFile(sFileColonne);
+    if (!(m_ColonneDaFiltrare > 0) || !VerificaCoerenzaLink()) {
+        return false;
+    }
+    const CorsaInVista corsa(*this);
+    m_Piattaforma.LasciaEventi();
+    const float nInizio = m_Piattaforma.SecondiDaMezzanotte();
+    CaricaEmulatore();
+    SviluppaCondizionatoDaFileColonne(sFileColonne);
+    MostraFineSviluppo(nInizio);
+    return true;
+}
+
+void Ordavel::Stop()
+{
+    const eRisposta risposta = m_Piattaforma.MostraMessaggio(
+        {.icona = eIcona::domanda, .sTitolo = {}, .sTesto = "Interrompere ?", .pulsanti = ePulsanti::siNo});
+    if (risposta == eRisposta::si) {
+        m_Stato.bStopSviluppo = true;
+    }
+}
+
+void Ordavel::MostraFineSviluppo(float nInizio)
+{
+    // The clock starts again at midnight, and a run may not.
+    float nDurata = m_Piattaforma.SecondiDaMezzanotte() - nInizio;
+    nDurata += nDurata < 0 ? kSecondiAlGiorno : 0;
+    const std::string sTempo = FormattaTempo(static_cast<std::int64_t>(std::trunc(nDurata)));
+    m_Piattaforma.MostraMessaggio({.icona = eIcona::informazione,
+                                   .sTitolo = "Sviluppo",
+                                   .sTesto = "Fine sviluppo " + std::string(kCrLf) + sTempo,
+                                   .pulsanti = ePulsanti::ok});
+}
+
+void Ordavel::CaricaEmulatore()
+{
+    m_Stato.aEmulatore.assign(1, RigaEmulatore{});
+    LeggiFileEmulatore(m_PercorsoTemp + "Emulatore.dat", m_Stato.aEmulatore);
+}
+
+void Ordavel::PreparaCorsa()
+{
+    m_ColonneValide = false;
+    m_Controlli.LabSviluppate.Testo.Poni("0");
+    m_Controlli.LabCondizionate.Testo.Poni("0");
+    AbilitaComandiSviluppo(true);
+}
+
+void Ordavel::SviluppaCondizionato()
+{
+    KillFile(m_FileColonne, m_Piattaforma);
+    PreparaCorsa();
+    const std::int16_t nClasse = classe();
+    AvanzamentoPannello avanzamento(*this);
+    m_ColonneValide =
+        InitSviluppoSistCondizionato({.nClasse = nClasse,
+                                      .nLimite = static_cast<std::int16_t>(nClasse - Riduzione()),
+                                      .griglia = m_GrdCond,
+                                      .aRigheQuadro = m_Controlli.LbQuadroRec.Voci.Valore(),
+                                      .sFile = m_FileColonne},
+                                     GetNumeriSel(), m_Stato, avanzamento);
+    ApriFileColonne(m_FileColonne);
+    AbilitaComandiSviluppo(false);
+}
+
+void Ordavel::SviluppaCondizionatoEsterno()
+{
+    m_ColonneValide = false;
+    m_Piattaforma.MostraFallimento("OrdavelSisE.SviluppaCondizionatoEsterno",
+                                   Errore(eErrore::fileNonTrovato, "TorvanSvilSist"));
+}
+
+void Ordavel::SviluppaCondizionatoDaFileColonne(const std::string& sFileColonne)
+{
+    ConGestore(m_Piattaforma, "OrdavelSisE.SviluppaCondizionatoDaFileColonne", [&] {
+        const std::string sDestinazione = m_PercorsoTemp + "Sviluppo.col";
+        const std::string sOrigine = MettiDaParte(sFileColonne, sDestinazione, m_Piattaforma);
+        if (!KillFile(sDestinazione, m_Piattaforma)) {
+            return;
+        }
+        PreparaCorsa();
+        const std::int16_t nClasse = GetClasseColonneInFile(sOrigine, m_Piattaforma);
+        AvanzamentoPannello avanzamento(*this);
+        m_ColonneValide =
+            InitSviluppoSistCondizionato({.nClasse = nClasse,
+                                          .nLimite = static_cast<std::int16_t>(nClasse - Riduzione()),
+                                          .griglia = m_GrdCond,
+                                          .aRigheQuadro = m_Controlli.LbQuadroRec.Voci.Valore(),
+                                          .sFile = sDestinazione},
+                                         sOrigine, m_Stato, avanzamento);
+        ApriFileColonne(sDestinazione);
+        AbilitaComandiSviluppo(false);
+    });
+}
+
+} // namespace ordavel
