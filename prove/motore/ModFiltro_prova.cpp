@@ -41,7 +41,7 @@ RecordCondizione Senza90()
     return record;
 }
 
-/// nQuante columns of which only the first nBuone do not hold 90.
+/// Puts 90 into the columns nDa to nA-1.
 void Scarta(std::vector<Colonna>& aColonne, std::size_t nDa, std::size_t nA)
 {
     for (std::size_t i = nDa; i < nA; ++i) {
@@ -146,6 +146,7 @@ TEST(ModFiltro, LaColonnaIncompletaHa0DoveIlFileFinisce)
 TEST(ModFiltro, UnRestoDietroUnBloccoInteroNonLasciaNumeriDelBloccoPrima)
 {
     std::vector<Colonna> aColonne = Prime(10000);
+    aColonne[0] = ColonnaDi(Fila(41, 60)).colonna; // it stands where the last column is read
     CorsaProva corsa;
     const auto aTenute = corsa.Filtra(ByteConResto(aColonne, 11), kClasse);
     ASSERT_EQ(aTenute.size(), std::size_t{10001});

@@ -68,9 +68,10 @@ double Media(std::int32_t nSomma, std::int16_t nClasse)
 SequenzaParita CreaSequenzaParita(std::int16_t nClasse, const Colonna& colonna)
 {
     VerificaClasse(nClasse);
+    // All 20 places, so that the compiler makes a few vector operations of it; the tail is masked out.
     SequenzaParita aParita;
-    for (int k = 1; k <= nClasse; ++k) {
-        aParita[k] = colonna[k] & 1;
+    for (std::int16_t k = 1; k <= kNumeriColonna; ++k) {
+        aParita[k] = k <= nClasse ? colonna[k] & 1 : 0;
     }
     return aParita;
 }

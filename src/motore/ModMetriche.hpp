@@ -30,7 +30,7 @@ public:
     [[nodiscard]] const SequenzaParita& Parita()
     {
         if (!m_aParita) {
-            m_aParita.emplace(SulPosto{m_nClasse, m_Colonna});
+            m_aParita = CreaSequenzaParita(m_nClasse, m_Colonna);
         }
         return *m_aParita;
     }
@@ -44,18 +44,6 @@ public:
     }
 
 private:
-    /// Makes the parities where they are kept: a copy would wait for the single writes right before it, which took
-    /// longer than all the rest.
-    struct SulPosto {
-        std::int16_t nClasse;
-        const Colonna& colonna;
-
-        [[nodiscard]] explicit operator SequenzaParita() const
-        {
-            return CreaSequenzaParita(nClasse, colonna);
-        }
-    };
-
     const Colonna& m_Colonna;
     std::int16_t m_nClasse;
     std::optional<std::int32_t> m_nSomma;

@@ -7,6 +7,7 @@
 #include "motore/ModMetriche.hpp"
 
 #include <algorithm>
+#include <string>
 
 namespace ordavel {
 
@@ -78,6 +79,14 @@ bool DentroLimiti(std::int16_t nClasse, const ContatoriEmulatore& aContatori, co
     return true;
 }
 
+/// Where a failure came from, for whoever must find it among many: "condizione 3 Resto".
+std::string NomeCondizione(const StatoSviluppo& stato, const RecordCondizione& record)
+{
+    const VoceCatalogo* voce = TrovaTipo(record.Tipo);
+    return "condizione " + std::to_string(&record - stato.aCondizioni.data() + 1) + " " +
+           std::string(voce == nullptr ? std::string_view() : voce->sChiave);
+}
+
 void Valuta(ColonnaInProva& colonna, StatoSviluppo& stato, RecordCondizione& record)
 {
     const VoceCatalogo* voce = TrovaTipo(record.Tipo);
@@ -135,8 +144,14 @@ bool VerificaColonna(std::int16_t nClasse, const Colonna& colonna, StatoSviluppo
 void ValutaCondizioni(std::int16_t nClasse, const Colonna& colonna, StatoSviluppo& stato)
 {
     ColonnaInProva inProva(nClasse, colonna);
-    for (RecordCondizione& record : stato.aCondizioni) {
-        Valuta(inProva, stato, record);
+    RecordCondizione* record = stato.aCondizioni.data();
+    const RecordCondizione* const fine = record + stato.aCondizioni.size();
+    try {
+        for (; record != fine; ++record) {
+            Valuta(inProva, stato, *record);
+        }
+    } catch (const Errore& errore) {
+        throw Errore(errore.Numero(), NomeCondizione(stato, *record));
     }
 }
 

@@ -20,7 +20,8 @@ namespace ordavel {
 /// Changes  verdicts, last values and counters of every condition. `ContaOk` and `ContaKo` count the verdict
 ///          before recovery. Links, and kinds without a metric, move no counter.
 /// Fails    9: a value outside a list (it stands in `Valore` by then), a position outside 1..20, a recovery
-///          group outside 0..20, a count outside a link's list; 11: modulus 0; 6: a scan that stands still
+///          group outside 0..20, a count outside a link's list; 11: modulus 0; 6: a scan that stands still. What a
+///          condition raises names it in its description.
 /// Cost     the metrics; no allocation but the first growth of the links' working copy
 [[nodiscard]] bool VerificaColonna(std::int16_t nClasse, const Colonna& colonna, StatoSviluppo& stato);
 
