@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <chrono>
 #include <iostream>
+#include <limits>
 #include <span>
 #include <unistd.h>
 
@@ -194,6 +195,10 @@ bool CorriProtetto(Sessione& sessione, const OpzioniCorsa& opzioni, EsitoCorsa& 
     }
     esito.nIntegrali =
         esito.bDaFile ? ArrotondaPari(NumeroColonneFile(opzioni.sOrigine)) : sistema.ColonneIntegrali();
+    if (esito.nIntegrali > std::numeric_limits<std::int32_t>::max()) {
+        sessione.Desktop().Avvisa("le colonne sono " + FormattaNumero(esito.nIntegrali) +
+                                  ": il conto si ferma con un errore dopo 2.147.483.647");
+    }
     if (!Esegui(sessione, opzioni, esito)) {
         return false;
     }

@@ -8,9 +8,7 @@
 #include <chrono>
 #include <csignal>
 #include <ctime>
-#include <fcntl.h>
 #include <iostream>
-#include <unistd.h>
 
 namespace ordavel::cli {
 
@@ -53,16 +51,6 @@ void PreparaSegnali()
     std::signal(SIGXFSZ, SIG_IGN);
 }
 
-void PreparaDescrittori()
-{
-    for (const int nDescrittore : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-        if (fcntl(nDescrittore, F_GETFD) == -1) {
-            // The lowest free number is this one.
-            static_cast<void>(open("/dev/null", O_RDONLY | O_CLOEXEC));
-        }
-    }
-}
-
 void MuoriSenzaLettore()
 {
     if (bSenzaLettore != 0) {
@@ -77,19 +65,19 @@ void PiattaformaCli::ChiamaFile(std::string sProvvisorio, std::string sFile)
     m_sFile = std::move(sFile);
 }
 
-eRisposta PiattaformaCli::MostraMessaggio(const Messaggio& messaggioDato)
+eRisposta PiattaformaCli::MostraMessaggio(const Messaggio& messaggio)
 {
     m_Barra.Cancella();
-    Messaggio messaggio = messaggioDato;
+    Messaggio mostrato = messaggio;
     if (!m_sProvvisorio.empty()) {
-        messaggio.sTesto = Sostituisci(messaggio.sTesto, m_sProvvisorio, m_sFile);
+        mostrato.sTesto = Sostituisci(mostrato.sTesto, m_sProvvisorio, m_sFile);
     }
-    m_aMessaggi.push_back(messaggio);
-    if (messaggio.icona == eIcona::critico) {
-        std::cerr << "errore: " << messaggio.sTitolo << ": " << SuUnaRiga(messaggio.sTesto) << std::endl;
-    } else if (messaggio.icona == eIcona::avviso) {
-        std::cerr << "avviso: " << SuUnaRiga(messaggio.sTesto) << std::endl;
+    if (mostrato.icona == eIcona::critico) {
+        std::cerr << "errore: " << mostrato.sTitolo << ": " << SuUnaRiga(mostrato.sTesto) << std::endl;
+    } else if (mostrato.icona == eIcona::avviso) {
+        std::cerr << "avviso: " << SuUnaRiga(mostrato.sTesto) << std::endl;
     }
+    m_aMessaggi.push_back(std::move(mostrato));
     return messaggio.pulsanti == ePulsanti::siNo ? eRisposta::si : eRisposta::ok;
 }
 

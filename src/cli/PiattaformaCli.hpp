@@ -17,10 +17,6 @@ namespace ordavel::cli {
 /// a death.
 void PreparaSegnali();
 
-/// Takes the places of the standard streams that the caller has closed, so that no file of the user gets one and
-/// is written to by mistake. What is written there still fails.
-void PreparaDescrittori();
-
 /// Has the reader of a stream gone? Then the process ends as it would have without PreparaSegnali.
 void MuoriSenzaLettore();
 
@@ -29,7 +25,7 @@ public:
     /// Takes    bBarra   whether a progress bar may be drawn
     explicit PiattaformaCli(bool bBarra) : m_Barra(bBarra) {}
 
-    eRisposta MostraMessaggio(const Messaggio& messaggio) override;
+    eRisposta MostraMessaggio(const Messaggio& messaggioDato) override;
     std::string DialogoApri(const RichiestaFile& richiesta) override;
     std::string DialogoSalva(const RichiestaFile& richiesta) override;
     void LasciaEventi() override;

@@ -191,7 +191,7 @@ void ControllaColonna(const Riga& riga)
 /// What the library says of a wrong line, in Italian where it is one of the common cases.
 std::string Traduci(const CLI::ParseError& errore)
 {
-    const std::string sTesto = errore.what();
+    std::string sTesto = errore.what();
     if (dynamic_cast<const CLI::RequiredError*>(&errore) != nullptr) {
         return "manca " + Sostituisci(sTesto, " is required", "");
     }
@@ -232,7 +232,6 @@ eUscita Interpreta(CLI::App& programma, Riga& riga, int nArgomenti, const char* 
 
 int Esegui(int nArgomenti, const char* const* aArgomenti)
 {
-    PreparaDescrittori();
     PreparaSegnali();
     CLI::App programma("Sistemi condizionati: dalle condizioni alle colonne.", "ordavel");
     Riga riga;

@@ -46,7 +46,7 @@ void Controlla(const std::error_code& codice, const std::string& sFile)
 fs::path CartellaTemporanea()
 {
     std::error_code codice;
-    const fs::path cartella = fs::temp_directory_path(codice);
+    fs::path cartella = fs::temp_directory_path(codice);
     if (codice) {
         throw Errore(eErrore::percorsoNonTrovato, "la cartella temporanea (TMPDIR)");
     }

@@ -174,7 +174,7 @@ std::vector<std::string> LeggiQuadro(const json& valore)
 void ControllaChiavi(const json& sistema)
 {
     if (!sistema.is_object()) {
-        throw TestoErrato("serve un oggetto JSON con \"classe\", \"numeri\" e \"righe\"");
+        throw TestoErrato(R"(serve un oggetto JSON con "classe", "numeri" e "righe")");
     }
     for (const auto& [sChiave, valore] : sistema.items()) {
         if (std::find(kChiavi.begin(), kChiavi.end(), sChiave) == kChiavi.end()) {

@@ -84,7 +84,7 @@ std::string ComeNumero(std::string_view sTesto)
     return std::to_string(LeggiIntero<std::int32_t>(sTesto));
 }
 
-std::string ParametriDaDialogo(const VoceCatalogo& voce, const ValoriDialogo& valori)
+std::string TestoParametri(const VoceCatalogo& voce, const ValoriDialogo& valori)
 {
     switch (voce.parametri) {
     case eParametri::nessuno:
@@ -139,7 +139,7 @@ std::string ParolaDirezione(const VoceCatalogo& voce, std::int16_t nParametro)
     return std::string(nParametro == 1 ? parole.sParametri : parole.sInverso);
 }
 
-std::string ParametriDaRecord(const VoceCatalogo& voce, const RecordCondizione& record)
+std::string TestoParametri(const VoceCatalogo& voce, const RecordCondizione& record)
 {
     const std::string sParametro = std::to_string(record.Parametro);
     switch (voce.parametri) {
@@ -189,7 +189,7 @@ std::string UnisciTerna(const std::array<std::string, 3>& aTerna, bool bSoloPien
     return unione.Testo();
 }
 
-void PuntiDaDialogo(const VoceCatalogo& voce, const ValoriDialogo& valori, Condizione& celle)
+void ScriviPunti(const VoceCatalogo& voce, const ValoriDialogo& valori, Condizione& celle)
 {
     switch (voce.punti) {
     case ePunti::nessuno:
@@ -213,7 +213,7 @@ void PuntiDaDialogo(const VoceCatalogo& voce, const ValoriDialogo& valori, Condi
     celle.sQuadro = valori.sQuadro;
 }
 
-void PuntiDaRecord(const VoceCatalogo& voce, const RecordCondizione& record, Condizione& celle)
+void ScriviPunti(const VoceCatalogo& voce, const RecordCondizione& record, Condizione& celle)
 {
     switch (voce.punti) {
     case ePunti::nessuno:
@@ -235,6 +235,18 @@ void PuntiDaRecord(const VoceCatalogo& voce, const RecordCondizione& record, Con
         break;
     }
     celle.sQuadro = record.IdRecupero >= 1 ? std::to_string(record.IdRecupero) : std::string();
+}
+
+/// The five cells from either source: a dialog's values or a record.
+template <typename Fonte> Condizione Celle(TipoCondizione tipo, const Fonte& fonte)
+{
+    Condizione celle;
+    if (const VoceCatalogo* voce = TrovaTipo(tipo)) {
+        celle.sCondizione = voce->sChiave;
+        celle.sParametri = TestoParametri(*voce, fonte);
+        ScriviPunti(*voce, fonte, celle);
+    }
+    return celle;
 }
 
 } // namespace
@@ -276,32 +288,12 @@ std::string AllineaTesto(std::string_view sValore, std::string_view sMaschera, b
 
 Condizione CelleDaDialogo(TipoCondizione tipo, const ValoriDialogo& valori)
 {
-    const VoceCatalogo* voce = TrovaTipo(tipo);
-    if (voce == nullptr) {
-        return {};
-    }
-    Condizione celle{.sCondizione = std::string(voce->sChiave),
-                     .sParametri = ParametriDaDialogo(*voce, valori),
-                     .sPunti = {},
-                     .sRecupero = {},
-                     .sQuadro = {}};
-    PuntiDaDialogo(*voce, valori, celle);
-    return celle;
+    return Celle(tipo, valori);
 }
 
 Condizione CelleDaRecord(const RecordCondizione& record)
 {
-    const VoceCatalogo* voce = TrovaTipo(record.Tipo);
-    if (voce == nullptr) {
-        return {};
-    }
-    Condizione celle{.sCondizione = std::string(voce->sChiave),
-                     .sParametri = ParametriDaRecord(*voce, record),
-                     .sPunti = {},
-                     .sRecupero = {},
-                     .sQuadro = {}};
-    PuntiDaRecord(*voce, record, celle);
-    return celle;
+    return Celle(record.Tipo, record);
 }
 
 void CondizioneSuGriglia(std::int32_t nRiga, std::int32_t nIndice, GrigliaCondizioni& griglia,

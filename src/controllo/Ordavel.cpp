@@ -226,9 +226,7 @@ void Ordavel::AbilitaComandiSviluppo(bool bInCorso)
 void Ordavel::AggiornaComandiColonne()
 {
     const bool bColonne = FileEsiste(m_FileColonne);
-    // While Stop is enabled no other button is.
-    const bool bStop = m_Controlli.Toolbar2.Pulsante("Stop").Abilitato.Valore();
-    m_Controlli.Toolbar2.Pulsante("VisualizzaColonne").Abilitato.Poni(bColonne && !bStop);
+    m_Controlli.Toolbar2.Pulsante("VisualizzaColonne").Abilitato.Poni(bColonne);
     for (const std::string_view sVoce : {"SalvaColonne", "SalvaColonneTesto"}) {
         m_Controlli.Toolbar2.Voce(sVoce).Abilitato.Poni(bColonne);
     }

@@ -39,6 +39,16 @@ std::string MettiDaParte(const std::string& sOrigine, const std::string& sDestin
     return sVecchio;
 }
 
+/// What a run needs of a component, for columns of a class.
+RichiestaSviluppo Richiesta(Ordavel& ordavel, std::int16_t nClasse, const std::string& sFile)
+{
+    return {.nClasse = nClasse,
+            .nLimite = static_cast<std::int16_t>(nClasse - ordavel.Riduzione()),
+            .griglia = ordavel.GetGridCond(),
+            .aRigheQuadro = ordavel.GetLbQuadroRec().Voci.Valore(),
+            .sFile = sFile};
+}
+
 } // namespace
 
 /// A run's refreshes, on labels and bar.
@@ -178,15 +188,9 @@ void Ordavel::SviluppaCondizionato()
 {
     KillFile(m_FileColonne, m_Piattaforma);
     PreparaCorsa();
-    const std::int16_t nClasse = classe();
     AvanzamentoPannello avanzamento(*this);
-    m_ColonneValide =
-        InitSviluppoSistCondizionato({.nClasse = nClasse,
-                                      .nLimite = static_cast<std::int16_t>(nClasse - Riduzione()),
-                                      .griglia = m_GrdCond,
-                                      .aRigheQuadro = m_Controlli.LbQuadroRec.Voci.Valore(),
-                                      .sFile = m_FileColonne},
-                                     GetNumeriSel(), m_Stato, avanzamento);
+    m_ColonneValide = InitSviluppoSistCondizionato(Richiesta(*this, classe(), m_FileColonne), GetNumeriSel(),
+                                                   m_Stato, avanzamento);
     ApriFileColonne(m_FileColonne);
     AbilitaComandiSviluppo(false);
 }
@@ -209,13 +213,8 @@ void Ordavel::SviluppaCondizionatoDaFileColonne(const std::string& sFileColonne)
         PreparaCorsa();
         const std::int16_t nClasse = GetClasseColonneInFile(sOrigine, m_Piattaforma);
         AvanzamentoPannello avanzamento(*this);
-        m_ColonneValide =
-            InitSviluppoSistCondizionato({.nClasse = nClasse,
-                                          .nLimite = static_cast<std::int16_t>(nClasse - Riduzione()),
-                                          .griglia = m_GrdCond,
-                                          .aRigheQuadro = m_Controlli.LbQuadroRec.Voci.Valore(),
-                                          .sFile = sDestinazione},
-                                         sOrigine, m_Stato, avanzamento);
+        m_ColonneValide = InitSviluppoSistCondizionato(Richiesta(*this, nClasse, sDestinazione), sOrigine,
+                                                       m_Stato, avanzamento);
         ApriFileColonne(sDestinazione);
         AbilitaComandiSviluppo(false);
     });
