@@ -25,7 +25,7 @@ public:
     /// Takes    bBarra   whether a progress bar may be drawn
     explicit PiattaformaCli(bool bBarra) : m_Barra(bBarra) {}
 
-    eRisposta MostraMessaggio(const Messaggio& messaggioDato) override;
+    eRisposta MostraMessaggio(const Messaggio& messaggio) override;
     std::string DialogoApri(const RichiestaFile& richiesta) override;
     std::string DialogoSalva(const RichiestaFile& richiesta) override;
     void LasciaEventi() override;
