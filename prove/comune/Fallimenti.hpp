@@ -13,8 +13,7 @@
 namespace ordavel::prove {
 
 /// The number of the failure that an operation throws; nothing when it ends well.
-template <typename Operazione>
-std::optional<int> NumeroErrore(Operazione&& operazione)
+template <typename Operazione> std::optional<int> NumeroErrore(Operazione&& operazione)
 {
     try {
         operazione();

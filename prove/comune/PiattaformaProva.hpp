@@ -115,6 +115,9 @@ public:
     eRisposta MostraMessaggio(const Messaggio& messaggio) override
     {
         m_aMessaggi.push_back(messaggio);
+        if (finestra) {
+            finestra();
+        }
         return messaggio.pulsanti == ePulsanti::ok ? eRisposta::ok
                                                    : Prossima(m_aRisposte, eRisposta::no, messaggio);
     }
@@ -145,8 +148,9 @@ public:
         return nSecondi;
     }
 
-    std::function<void()> eventi; ///< what happens whenever events are let run
-    int nEventi = 0;              ///< how often they were
+    std::function<void()> finestra; ///< what happens while a box is shown
+    std::function<void()> eventi;   ///< what happens whenever events are let run
+    int nEventi = 0;                ///< how often they were
 
 private:
     std::string Chiedi(const DialogoFile& dialogo)

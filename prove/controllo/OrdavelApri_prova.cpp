@@ -22,7 +22,6 @@ using prove::TestoSistema;
 using testing::Contains;
 using testing::Each;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 const Messaggio kRifiuto = Avviso("Il sistema scelto è salvato in formato non più supportato");
 

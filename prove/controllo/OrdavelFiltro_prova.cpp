@@ -16,7 +16,6 @@ using prove::Domanda;
 using prove::Fallimento;
 using prove::FineSviluppo;
 using prove::LeggiFile;
-using prove::NumeroErrore;
 using prove::ScriviFile;
 using testing::ElementsAre;
 using testing::IsEmpty;

@@ -18,7 +18,6 @@ using prove::Fallimento;
 using prove::LeggiFile;
 using prove::ScriviFile;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 class OrdavelSistema : public testing::Test, protected prove::SistemaProva {
 protected:

@@ -16,7 +16,6 @@ using prove::Fallimento;
 using prove::FineSviluppo;
 using prove::NumeroErrore;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr std::string_view kInit = "ModSistemiCond.InitSviluppoSistCondizionato";
 

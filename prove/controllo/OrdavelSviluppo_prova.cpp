@@ -13,7 +13,6 @@ using prove::ByteDi;
 using prove::Domanda;
 using prove::FineSviluppo;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 class OrdavelSviluppo : public testing::Test, protected prove::SistemaProva {
 protected:
@@ -267,11 +266,21 @@ TEST_F(OrdavelSviluppo, IlTempoCominciaDopoGliEventiDellInizio)
 TEST_F(OrdavelSviluppo, LaFinestraFinaleSiMostraACorsaConclusa)
 {
     Pronostico(5, 1, 5);
+    int nFinestre = 0;
+    piattaforma.finestra = [&] {
+        ++nFinestre;
+        EXPECT_FALSE(Abilitato("Stop"));
+        EXPECT_TRUE(Abilitato("VisualizzaColonne"));
+        EXPECT_TRUE(Abilitato("FiltraSvilPrec"));
+        EXPECT_TRUE(sistema.Controlli().PanSviluppo.Visibile.Valore());
+    };
     EXPECT_TRUE(sistema.GestSviluppo());
     EXPECT_THAT(piattaforma.Messaggi(), ElementsAre(Messaggio{.icona = eIcona::informazione,
                                                               .sTitolo = "Sviluppo",
                                                               .sTesto = "Fine sviluppo \r\n00:00:00",
                                                               .pulsanti = ePulsanti::ok}));
+    EXPECT_EQ(nFinestre, 1);
+    EXPECT_FALSE(sistema.Controlli().PanSviluppo.Visibile.Valore());
 }
 
 TEST_F(OrdavelSviluppo, SenzaFileLEmulatoreHaUnaRigaDiZeri)

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -69,6 +70,16 @@ TEST(ModEmulatore, UnFileSenzaRigheFallisceELasciaLeRighe)
         ScriviFile(cartella / "corto", std::string(nByte, '\0'));
         EXPECT_EQ(NumeroErrore([&] { LeggiFileEmulatore(cartella / "corto", aRighe); }), 9) << nByte;
     }
+    EXPECT_EQ(aRighe.size(), std::size_t{3});
+}
+
+TEST(ModEmulatore, UnFileDiTroppeRigheFallisceSenzaCaricarlo)
+{
+    const CartellaProva cartella;
+    std::vector<RigaEmulatore> aRighe(3);
+    ScriviFile(cartella / "enorme", "");
+    std::filesystem::resize_file(cartella / "enorme", std::uintmax_t{32768} * 91);
+    EXPECT_EQ(NumeroErrore([&] { LeggiFileEmulatore(cartella / "enorme", aRighe); }), 6);
     EXPECT_EQ(aRighe.size(), std::size_t{3});
 }
 

@@ -18,7 +18,7 @@ void LeggiFileEmulatore(const std::string& sFile, std::vector<RigaEmulatore>& aR
         return;
     }
     FileBinario file(sFile, eApertura::lettura);
-    const auto nRighe = ComeIntero<std::int32_t>(static_cast<double>(file.Lunghezza()) /
+    const auto nRighe = ComeIntero<std::int16_t>(static_cast<double>(file.Lunghezza()) /
                                                  static_cast<double>(kByteRigaEmulatore));
     if (nRighe < 1) {
         Solleva(eErrore::indice);
