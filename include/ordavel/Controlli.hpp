@@ -76,6 +76,16 @@ struct Etichetta : Controllo {
     Stato<std::string> Testo;
 };
 
+/// A text that the user types.
+struct CasellaTesto : Controllo {
+    Stato<std::string> Testo;
+};
+
+/// A check box.
+struct Spunta : Controllo {
+    Stato<bool> Segnata{false};
+};
+
 /// A progress bar, 0 to 100.
 struct Barra : Controllo {
     Stato<std::int32_t> Valore;
