@@ -30,6 +30,7 @@ def scrivi(fuzzer: str, nome: str, byte: bytes) -> None:
 def main() -> None:
     sistema = da_esadecimale((BUONI / "sistema.hex").read_text())
     colonne = da_esadecimale((BUONI / "colonne.hex").read_text())
+    ponte = da_esadecimale((BUONI / "condizioni.hex").read_text())
     parte = sistema[: sistema.index(b"COLONNE")]
     scrivi("file_sistema", "senza_condizioni", parte[:317])
     scrivi("file_sistema", "una_condizione", parte)
@@ -38,6 +39,12 @@ def main() -> None:
     scrivi("file_colonne", "con_colonne", sistema)
     scrivi("file_colonne", "senza_colonne", parte)
     scrivi("file_colonne", "sole_colonne", b"COLONNE" + colonne)
+    scrivi("file_condizioni", "una_riga", ponte)
+    scrivi("file_condizioni", "due_righe", ponte + ponte)
+    scrivi("file_condizioni", "riga_vuota", ponte + b"\0" + ponte)
+    scrivi("file_condizioni", "chiave_vuota", b"[R]1-2[R]\0" + ponte)
+    scrivi("file_condizioni", "troppe_celle", b"A[R]" * 7 + b"\0")
+    scrivi("file_condizioni", "pagina", bytes(range(1, 256)) + b"[R]\0")
 
 
 if __name__ == "__main__":
