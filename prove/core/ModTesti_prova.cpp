@@ -143,5 +143,13 @@ RC_GTEST_PROP(ModTesti, TogliereIBlankToccaSoloLeEstremita, ())
     RC_ASSERT(sTesto.find_last_not_of(' ') + 1 == (sTolto.empty() ? 0 : nInizio + sTolto.size()));
 }
 
+TEST(ModTesti, DietroDaCioCheSegueLaPrimaOccorrenza)
+{
+    EXPECT_EQ(Dietro("Resto a : 4:5", ":"), " 4:5");
+    EXPECT_EQ(Dietro("a:", ":"), "");
+    EXPECT_EQ(Dietro("abc", ":"), "");
+    EXPECT_EQ(Dietro("", ":"), "");
+}
+
 } // namespace
 } // namespace ordavel

@@ -18,13 +18,6 @@ std::string SenzaALinea(std::string_view sTesto)
     return Sostituisci(sTesto, kCrLf, "");
 }
 
-/// What stands behind the first sCercato; empty when it is not there.
-std::string_view Dietro(std::string_view sTesto, std::string_view sCercato)
-{
-    const std::size_t nPosto = sTesto.find(sCercato);
-    return nPosto == std::string_view::npos ? std::string_view() : sTesto.substr(nPosto + sCercato.size());
-}
-
 /// The text from the first sCercato on; empty when it is not there.
 std::string_view DaQui(std::string_view sTesto, std::string_view sCercato)
 {

@@ -74,4 +74,10 @@ std::size_t CercaSenzaCaso(std::string_view sTesto, std::string_view sCercato) n
                                                         : static_cast<std::size_t>(trovato - sTesto.begin());
 }
 
+std::string_view Dietro(std::string_view sTesto, std::string_view sCercato) noexcept
+{
+    const std::size_t nPosto = sTesto.find(sCercato);
+    return nPosto == std::string_view::npos ? std::string_view() : sTesto.substr(nPosto + sCercato.size());
+}
+
 } // namespace ordavel

@@ -31,4 +31,7 @@ inline constexpr std::string_view kCrLf = "\r\n";
 /// First place of sCercato in sTesto, letters a to z taken without regard to case; npos when it is not there.
 [[nodiscard]] std::size_t CercaSenzaCaso(std::string_view sTesto, std::string_view sCercato) noexcept;
 
+/// What stands behind the first sCercato; empty when it is not there.
+[[nodiscard]] std::string_view Dietro(std::string_view sTesto, std::string_view sCercato) noexcept;
+
 } // namespace ordavel

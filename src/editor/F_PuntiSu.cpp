@@ -22,13 +22,6 @@ const RigaDialogo& RigaDi(TipoCondizione tipo)
     return *riga;
 }
 
-/// What stands behind the first sCercato; empty when it is not there.
-std::string_view Dietro(std::string_view sTesto, std::string_view sCercato)
-{
-    const std::size_t nPosto = sTesto.find(sCercato);
-    return nPosto == std::string_view::npos ? std::string_view() : sTesto.substr(nPosto + sCercato.size());
-}
-
 void Segna(SerieSpunte& serie, std::string_view sLista, std::string_view sSep)
 {
     for (const std::string_view sValore : Dividi(sLista, sSep)) {
