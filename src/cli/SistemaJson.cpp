@@ -3,6 +3,7 @@
 #include "cli/SistemaJson.hpp"
 
 #include "condizioni/ModCatalogo.hpp"
+#include "condizioni/ModRighe.hpp"
 #include "core/ModTesti.hpp"
 
 #include <algorithm>
@@ -239,10 +240,7 @@ void Imposta(const TestoSistema& testo, ordavel::Ordavel& sistema)
 std::vector<Condizione> RigheOccupate(ordavel::Ordavel& sistema)
 {
     std::vector<Condizione> aRighe;
-    std::int32_t nUltima = kCondizioniMassime;
-    while (nUltima > 0 && sistema.GetGridCond().Vuota(nUltima)) {
-        --nUltima;
-    }
+    const std::int32_t nUltima = UltimaRigaOccupata(sistema.GetGridCond());
     for (std::int32_t nRiga = 1; nRiga <= nUltima; ++nRiga) {
         aRighe.push_back(sistema.GetGridCond().Riga(nRiga));
     }

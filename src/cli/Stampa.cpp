@@ -4,6 +4,7 @@
 
 #include "cli/SistemaJson.hpp"
 #include "condizioni/ModCatalogo.hpp"
+#include "condizioni/ModRighe.hpp"
 #include "core/ModNumeri.hpp"
 #include "core/ModTesti.hpp"
 
@@ -159,11 +160,11 @@ void StampaQuadro(std::ostream& uscita, const std::vector<std::string>& aQuadro)
     int nGruppo = 0;
     for (const std::string& sLinea : aQuadro) {
         ++nGruppo;
-        const auto aParti = Dividi(sLinea, ",");
-        if (aParti.size() >= 3 && LeggiNumero(aParti[2]) != 0) {
+        const RigaQuadro riga = LeggiRigaQuadro(sLinea);
+        if (riga.bInUso) {
             uscita << "Gruppo di recupero " << nGruppo
-                   << ": perdona quando le condizioni in recupero sono da " << aParti[0] << " a " << aParti[1]
-                   << '\n';
+                   << ": perdona quando le condizioni in recupero sono da " << riga.sMinimo << " a "
+                   << riga.sMassimo << '\n';
         }
     }
 }

@@ -1,4 +1,4 @@
-// ModPagina1252.cpp - texts to and from the Windows code page 1252.
+// ModPagina1252.cpp - texts to and from code page 1252.
 
 #include "core/ModPagina1252.hpp"
 
