@@ -76,9 +76,19 @@ struct Etichetta : Controllo {
     Stato<std::string> Testo;
 };
 
+/// Does a box for figures take a key? Digits, ",", Enter and Backspace pass.
+[[nodiscard]] ORDAVEL_EXPORT bool SoloCifre(char32_t nTasto) noexcept;
+
 /// A text that the user types.
 struct CasellaTesto : Controllo {
     Stato<std::string> Testo;
+    Stato<std::int32_t> Fuoco; ///< how often logic has asked that the user types here next
+    bool bSoloCifre = false;   ///< keys are filtered; a text that logic puts here is not
+
+    /// Does a key pass?
+    [[nodiscard]] bool Accetta(char32_t nTasto) const noexcept { return !bSoloCifre || SoloCifre(nTasto); }
+
+    void ChiediFuoco() { Fuoco.Poni(Fuoco.Valore() + 1); }
 };
 
 /// A check box.
@@ -96,6 +106,63 @@ struct Lista : Controllo {
     Stato<std::vector<std::string>> Voci;
 };
 
+/// A list of texts of which any number may be selected.
+struct ListaMultipla : Lista {
+    Stato<std::vector<bool>> Scelte; ///< one for each entry
+
+    /// Adds an entry at the end, not selected.
+    ORDAVEL_EXPORT void Aggiungi(std::string_view sVoce);
+
+    /// Selects the entry nPosto, from 0, or not.
+    /// Fails    9: there is none
+    ORDAVEL_EXPORT void Seleziona(std::size_t nPosto, bool bScelta);
+};
+
+/// One line of a report list.
+struct RigaElenco {
+    std::string sChiave;
+    std::string sTesto;              ///< first column
+    std::vector<std::string> aSotto; ///< the columns behind it
+    bool bScelta = false;
+
+    [[nodiscard]] friend bool operator==(const RigaElenco&, const RigaElenco&) = default;
+};
+
+/// A report list: headed columns, lines of which any number may be selected.
+struct Elenco : Controllo {
+    std::vector<std::string> aTestate;
+    Stato<std::vector<RigaElenco>> Righe;
+
+    /// Selects all lines, or none.
+    ORDAVEL_EXPORT void SelezionaTutte(bool bScelte);
+};
+
+/// A small sheet of texts with a current cell. Rows and columns count from 0; a negative row is none.
+struct Foglio : Controllo {
+    struct Posto {
+        std::int32_t nRiga = -1;
+        std::int32_t nColonna = 0;
+
+        [[nodiscard]] friend bool operator==(const Posto&, const Posto&) = default;
+    };
+
+    Stato<std::vector<std::vector<std::string>>> Celle; ///< rows of equal length
+    Stato<Posto> Corrente;
+
+    /// Empties the sheet and gives it a size; no cell is current.
+    ORDAVEL_EXPORT void Disponi(std::int32_t nRighe, std::int32_t nColonne);
+
+    [[nodiscard]] std::int32_t Righe() const noexcept
+    {
+        return static_cast<std::int32_t>(Celle.Valore().size());
+    }
+
+    /// The text of a cell.
+    /// Fails    9: there is no such cell
+    [[nodiscard]] ORDAVEL_EXPORT const std::string& Testo(Posto posto) const;
+    ORDAVEL_EXPORT void Scrivi(Posto posto, std::string_view sTesto);
+};
+
 /// A drop-down list: entries, of which one or none is selected.
 struct Combo : Controllo {
     Stato<std::vector<std::string>> Voci;
@@ -106,6 +173,12 @@ struct Combo : Controllo {
 
     /// Adds an entry at the end.
     ORDAVEL_EXPORT void Aggiungi(std::string_view sVoce);
+
+    /// Adds the numbers nPrimo to nUltimo, one entry each; none when nUltimo is the smaller.
+    ORDAVEL_EXPORT void AggiungiNumeri(std::int32_t nPrimo, std::int32_t nUltimo);
+
+    /// Selects the first entry, if there is any.
+    ORDAVEL_EXPORT void SelezionaPrima();
 
     /// Text of the selected entry; empty when none is.
     [[nodiscard]] ORDAVEL_EXPORT std::string Testo() const;
@@ -152,9 +225,16 @@ struct BarraStrumenti : Controllo {
     [[nodiscard]] ORDAVEL_EXPORT VoceMenu& Voce(std::string_view sChiave);
 };
 
+/// A yes or no for each number.
+using SegniNumeri = Tabella<std::uint8_t, 1, kNumeroMassimo>;
+
+/// The same for all numbers.
+[[nodiscard]] ORDAVEL_EXPORT SegniNumeri TuttiINumeri(bool bSegno) noexcept;
+
 /// The selector of numbers: 1 to 90, each selected or not.
 struct SelettoreNumeri : Controllo {
-    Stato<Tabella<std::uint8_t, 1, kNumeroMassimo>> Scelti; ///< 1 for a selected number
+    Stato<SegniNumeri> Scelti;                        ///< 1 for a selected number
+    Stato<SegniNumeri> Abilitati{TuttiINumeri(true)}; ///< 1 for a number that the user may select
 
     /// Fails    9: nNumero outside 1..90
     [[nodiscard]] ORDAVEL_EXPORT bool Scelto(std::int32_t nNumero) const;
@@ -165,6 +245,19 @@ struct SelettoreNumeri : Controllo {
 
     /// Selects none.
     ORDAVEL_EXPORT void Svuota();
+};
+
+/// Which part of the list of conditions is on show. The view says how many whole columns fit, and follows.
+struct VistaCondizioni : Controllo {
+    Stato<std::int32_t> PrimaColonna{1};   ///< the leftmost one
+    Stato<std::int32_t> ColonneIntere{10}; ///< how many fit; the view's, 1 or more
+
+    /// Is a condition on show as a whole?
+    [[nodiscard]] ORDAVEL_EXPORT bool IsVisibile(std::int32_t nId) const noexcept;
+
+    /// Brings a condition into view: to the left edge from the left of it; from the right, as far as it and the
+    /// one behind it need.
+    ORDAVEL_EXPORT void PortaInVista(std::int32_t nId);
 };
 
 } // namespace ordavel

@@ -24,12 +24,16 @@
 #include "ordavel/StatoSviluppo.hpp"
 #include "ordavel/esporta.hpp"
 
+#include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace ordavel {
 
+class DialogoCondizione;
 class FileBinario;
+class OspiteDialoghi;
 
 /// The controls of the component, by their names.
 struct ControlliOrdavel {
@@ -46,7 +50,8 @@ struct ControlliOrdavel {
     Controllo PanSviluppo;     ///< visible during a run
     BarraStrumenti Toolbar2;   ///< keys, tips and menus
     SelettoreNumeri SelnovoNumeri1;
-    Lista LbQuadroRec; ///< the recovery board, a line "minimum,maximum,flag" per group from 1
+    Lista LbQuadroRec;       ///< the recovery board, a line "minimum,maximum,flag" per group from 1
+    VistaCondizioni GrdCond; ///< which conditions are on show
 };
 
 class ORDAVEL_EXPORT Ordavel {
@@ -104,7 +109,7 @@ public:
     /// The conditions and the board themselves: what is written there counts.
     [[nodiscard]] GrigliaCondizioni& GetGridCond() noexcept { return m_GrdCond; }
     [[nodiscard]] Lista& GetLbQuadroRec() noexcept { return m_Controlli.LbQuadroRec; }
-    /// Selects a condition.
+    /// Selects a condition and brings it into view.
     /// Fails    9: nId outside 0..2000
     void SetColonnaGrid(std::int32_t nId);
 
@@ -114,6 +119,61 @@ public:
     /// Compiles the conditions and looks at their links; shows "Link non valide" when they do not match.
     /// Fails    what compiling raises
     [[nodiscard]] bool VerificaCoerenzaLink();
+
+    /// How many columns the last "Emulatore" condition asks for; 0 without one.
+    /// Fails    6: more than 32767
+    [[nodiscard]] std::int16_t GetQuantitaColDaEmulareFromGrid() const;
+
+    // ---- what a user does with conditions ----
+    //
+    // Each shows its dialog through the desktop and writes what was confirmed; a dialog that was cancelled changes
+    // nothing. None of them does anything during a run. "Changed" means: the system counts as modified, and its
+    // columns no longer belong to it.
+
+    /// Puts a condition into the first free row, or into the hole that InserisciRiga has opened and selected.
+    ///
+    /// Takes    t        the kind; one that no kind has writes five empty cells
+    ///          sParam   empty: the kind's dialog is shown. Else it is filled from the text and not shown: values
+    ///                   joined by ",", those for recovery behind "|"; where the dialog has a combo, its entry and
+    ///                   a line break in front; a range as "minimum,maximum". "Sequenze" has the pattern in front
+    ///                   and the chain lengths behind two more "|"; "Emulatore" takes the lines of its cell,
+    ///                   without the first "[". "Peso", the "Somma" kinds, "Formule", "Decine Specifiche",
+    ///                   "GruppiDiConsecutivi" and the numerical kinds take no text and insert nothing;
+    ///                   "Punti Col." and "LinkClose" are asked for in any case, and "LinkOpen" asks nothing.
+    /// Changes  the row, and selects it. With 2000 conditions the headings are written over. Failures are shown
+    ///          under "OrdavelSis.InsCondizione"
+    void InsCondizione(TipoCondizione t, std::string_view sParam);
+
+    /// Edits the selected condition in its dialog; a "LinkOpen" has none, and nothing happens.
+    /// Fails    9: a cell holds a value for which the dialog has no box; 6: a number in it is too large
+    void ModificaCondizione();
+
+    /// Opens an empty row at the selected one; what row 2000 held is lost. The system does not count as changed.
+    void InserisciRiga();
+
+    /// Deletes the selected condition; with an empty row below the block selected, the last one goes. Changed.
+    void EliminaCondizione();
+
+    /// Asks for a run of conditions and deletes it. The system does not count as changed.
+    void EliminaRangeCondizioni();
+
+    /// Asks for points and a run of conditions, and writes the same points into all of them, links excepted. The
+    /// system does not count as changed.
+    void ApplicaImpostaPunti();
+
+    /// Asks for a text file and makes a "Punti Col." condition of every line that is a column. Beyond row 2000 it
+    /// warns "Superato il numero di condizioni impostabili", and the rows in front stay. Changed.
+    void InserisciColonneDaFile();
+
+    /// Asks for the recovery board. Changed.
+    /// Fails    9: a row names a group outside 0..20, or a board line has fewer than three parts
+    void GestQuadroRecuperi();
+
+    /// Asks for a run of conditions and a file, and writes them there.
+    void SalvaCondizioni();
+
+    /// Asks for a condition file and puts its rows behind the conditions. The system does not count as changed.
+    void InsCondizioni();
 
     // ---- runs ----
 
@@ -193,6 +253,12 @@ private:
     void AbilitaComandiSviluppo(bool bInCorso);
     void AggiornaComandiColonne();
 
+    // Conditions.
+    void InserisciCondizione(TipoCondizione tipo, std::int32_t& nRiga, std::string_view sParam,
+                             std::unique_ptr<DialogoCondizione> dialogo = nullptr);
+    void MostraORiempi(DialogoCondizione& dialogo, std::int32_t nRiga, std::string_view sParam);
+    void SegnaModificato() noexcept;
+
     // Runs.
     void MostraFineSviluppo(float nInizio);
     void CaricaEmulatore();
@@ -217,6 +283,8 @@ private:
     ControlliOrdavel m_Controlli;
     GrigliaCondizioni m_GrdCond;
     StatoSviluppo m_Stato;
+    std::unique_ptr<Statistica> m_Statistica;
+    std::unique_ptr<OspiteDialoghi> m_Ospite; ///< the component as its dialogs see it
 
     std::string m_FileSistema;
     std::string m_FileColonne;

@@ -1,14 +1,16 @@
 // Piattaforma.hpp - what the system asks of a desktop.
 //
-// The one way by which logic reaches a user: message boxes, file dialogs, pending events, pointer, clock. A window
-// system, the command line and the tests each bring their own.
+// The one way by which logic reaches a user: message boxes, dialogs, choice of files and folders, statistics,
+// pending events, pointer, clock. A window system, the command line and the tests each bring their own.
 
 #pragma once
 
+#include "ordavel/Dialogo.hpp"
 #include "ordavel/errore.hpp"
 #include "ordavel/esporta.hpp"
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -35,6 +37,23 @@ struct RichiestaFile {
     std::string sCartella;   ///< folder shown at the start
 };
 
+/// Shows what a kind of condition did over the draws of a game. One serves a component for its life.
+class ORDAVEL_EXPORT Statistica {
+public:
+    Statistica() = default;
+    Statistica(const Statistica&) = delete;
+    Statistica& operator=(const Statistica&) = delete;
+    virtual ~Statistica();
+
+    /// Once, at the component's start and at its end.
+    virtual void Avvia() = 0;
+    virtual void Ferma() = 0;
+
+    /// Takes    nIdStatistica   number of the kind in the statistics' own numbering
+    ///          nGioco          game, from 1
+    virtual void MostraStatistica(std::int32_t nIdStatistica, std::int16_t nGioco) = 0;
+};
+
 class ORDAVEL_EXPORT Piattaforma : public Segnalatore {
 public:
     /// Shows a box and waits for its answer: `ok`, or `si` or `no` where these are asked for.
@@ -44,6 +63,18 @@ public:
     /// Gives    its path; empty when the user gave up
     virtual std::string DialogoApri(const RichiestaFile& richiesta) = 0;
     virtual std::string DialogoSalva(const RichiestaFile& richiesta) = 0;
+
+    /// Asks for a folder.
+    /// Takes    sCartella   the one shown at the start
+    /// Gives    its path; empty when the user gave up
+    virtual std::string ScegliCartella(const std::string& sCartella) = 0;
+
+    /// Shows a dialog, alone in front of the others, until it hides itself or its window is closed, which leaves
+    /// its tag as it is.
+    virtual void MostraModale(Dialogo& dialogo) = 0;
+
+    /// The statistics that a component asks for; made once, when it starts. Without any the user is told so.
+    [[nodiscard]] virtual std::unique_ptr<Statistica> CreaStatistica();
 
     /// Lets pending events run. Commands may arrive inside.
     virtual void LasciaEventi() = 0;

@@ -12,6 +12,7 @@
 #include <deque>
 #include <functional>
 #include <initializer_list>
+#include <memory>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -92,6 +93,7 @@ public:
         EXPECT_THAT(m_aMessaggi, testing::IsEmpty()) << "finestre che nessuno ha guardato";
         EXPECT_THAT(m_aRisposte, testing::IsEmpty()) << "risposte che nessuno ha chiesto";
         EXPECT_THAT(m_aFile, testing::IsEmpty()) << "file che nessuno ha chiesto";
+        EXPECT_TRUE(m_aGiochi.empty()) << m_aGiochi.size() << " finestre di dialogo mai mostrate";
         EXPECT_EQ(m_nOccupato, 0) << "puntatore lasciato in attesa";
     }
 
@@ -100,6 +102,17 @@ public:
 
     /// The answer to the next file dialog; empty to give up.
     void Scegli(std::string sFile) { m_aFile.push_back(std::move(sFile)); }
+
+    /// What the user does with the next dialog, which must be of that type. Left on show at the end, its window
+    /// is closed.
+    template <typename Finestra, typename Azione> void Gioca(Azione azione)
+    {
+        m_aGiochi.push_back([azione](Dialogo& dialogo) {
+            auto* mostrata = dynamic_cast<Finestra*>(&dialogo);
+            ASSERT_NE(mostrata, nullptr) << "si mostra " << dialogo.sNome;
+            azione(*mostrata);
+        });
+    }
 
     /// What the clock shows at its next readings; the last time stays.
     void Orologio(std::initializer_list<float> aSecondi) { m_aSecondi = aSecondi; }
@@ -125,6 +138,35 @@ public:
     std::string DialogoApri(const RichiestaFile& richiesta) override { return Chiedi({false, richiesta}); }
     std::string DialogoSalva(const RichiestaFile& richiesta) override { return Chiedi({true, richiesta}); }
 
+    /// The next folder is an answer of the same script as the files.
+    std::string ScegliCartella(const std::string& sCartella) override
+    {
+        return Prossima(m_aFile, std::string(), sCartella);
+    }
+
+    void MostraModale(Dialogo& dialogo) override
+    {
+        aMostrati.push_back(dialogo.sNome);
+        if (m_aGiochi.empty()) {
+            ADD_FAILURE() << "nessuno sa che fare di " << dialogo.sNome;
+            return;
+        }
+        const auto gioco = std::move(m_aGiochi.front());
+        m_aGiochi.pop_front();
+        dialogo.Mostra();
+        gioco(dialogo);
+        dialogo.Visibile.Poni(false);
+    }
+
+    /// What was asked of the statistics of the component, and its starts and stops.
+    struct RegistroStatistica {
+        std::vector<std::pair<std::int32_t, std::int16_t>> aMostrate;
+        int nAvvii = 0;
+        int nFermate = 0;
+    };
+
+    std::unique_ptr<Statistica> CreaStatistica() override;
+
     void LasciaEventi() override
     {
         ++nEventi;
@@ -148,9 +190,11 @@ public:
         return nSecondi;
     }
 
-    std::function<void()> finestra; ///< what happens while a box is shown
-    std::function<void()> eventi;   ///< what happens whenever events are let run
-    int nEventi = 0;                ///< how often they were
+    std::function<void()> finestra;     ///< what happens while a box is shown
+    std::function<void()> eventi;       ///< what happens whenever events are let run
+    int nEventi = 0;                    ///< how often they were
+    std::vector<std::string> aMostrati; ///< the names of all dialogs that were shown
+    RegistroStatistica statistica;
 
 private:
     std::string Chiedi(const DialogoFile& dialogo)
@@ -175,8 +219,30 @@ private:
     std::vector<DialogoFile> m_aDialoghi;
     std::deque<eRisposta> m_aRisposte;
     std::deque<std::string> m_aFile;
+    std::deque<std::function<void(Dialogo&)>> m_aGiochi;
     std::deque<float> m_aSecondi{0};
     int m_nOccupato = 0;
 };
+
+/// Remembers what it was asked for.
+class StatisticaProva : public Statistica {
+public:
+    explicit StatisticaProva(PiattaformaProva::RegistroStatistica& registro) : m_Registro(registro) {}
+
+    void Avvia() override { ++m_Registro.nAvvii; }
+    void Ferma() override { ++m_Registro.nFermate; }
+    void MostraStatistica(std::int32_t nIdStatistica, std::int16_t nGioco) override
+    {
+        m_Registro.aMostrate.emplace_back(nIdStatistica, nGioco);
+    }
+
+private:
+    PiattaformaProva::RegistroStatistica& m_Registro;
+};
+
+inline std::unique_ptr<Statistica> PiattaformaProva::CreaStatistica()
+{
+    return std::make_unique<StatisticaProva>(statistica);
+}
 
 } // namespace ordavel::prove

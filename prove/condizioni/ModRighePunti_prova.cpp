@@ -32,16 +32,19 @@ TEST(ModRighe, IPuntiMassiviSaltanoILink)
 {
     const std::vector<Condizione> aPrima = {
         {"Peso", "c", "1-2", "-", " "},    {"LinkOpen", "L", "", "", ""},   {"Ponte", "P", "1", "", ""},
-        {"LinkClose", "L", "1", "", ""},   {"MioLinkato", "x", "", "", ""}, {"link", "x", "", "", ""},
+        {"LinkClose", "L", "1", "", ""},   {"MioLinkato", "x", "", "", ""}, {"lin", "x", "", "", ""},
         {"Cadenze", "C\r\n3", "2", "", ""}};
     GrigliaCondizioni griglia = GrigliaDi(aPrima);
+    griglia.Riga(9) = {"linkclose", "x", "", "", ""};
     ApplicaImpostaPunti(griglia, 1, 6, "1-2-3", "4", "7");
+    ApplicaImpostaPunti(griglia, 9, 9, "1-2-3", "4", "7");
+    EXPECT_EQ(griglia.Riga(9).sPunti, "") << "case does not count";
     for (const std::int32_t nRiga : {2, 4, 5, 7}) {
         EXPECT_EQ(griglia.Riga(nRiga), aPrima[static_cast<std::size_t>(nRiga) - 1]);
     }
     EXPECT_EQ(griglia.Riga(1), (Condizione{"Peso", "c", "1-2-3", "4", "7"}));
     EXPECT_EQ(griglia.Riga(3), (Condizione{"Ponte", "P", "1-2-3", "4", "7"}));
-    EXPECT_EQ(griglia.Riga(6), (Condizione{"link", "x", "1-2-3", "4", "7"})) << "letter case counts";
+    EXPECT_EQ(griglia.Riga(6), (Condizione{"lin", "x", "1-2-3", "4", "7"}));
     EXPECT_EQ(griglia.Riga(8), Condizione{});
 }
 
@@ -110,6 +113,8 @@ TEST(ModRighe, LUltimoEmulatoreDiceQuanteColonne)
     griglia.Riga(2000) = {"Emulatore", "[500]", "", "", ""};
     EXPECT_EQ(GetQuantitaColDaEmulareFromGrid(griglia), 500) << "a gap hides nothing";
     griglia.Riga(2000).sCondizione = "emulatore";
+    EXPECT_EQ(GetQuantitaColDaEmulareFromGrid(griglia), 500) << "case does not count";
+    griglia.Riga(2000).sCondizione = "Emulatori";
     EXPECT_EQ(GetQuantitaColDaEmulareFromGrid(griglia), 12);
 }
 

@@ -131,12 +131,13 @@ TEST(ModRighe, IlLinkContaLeRigheFinoAlSuoInizio)
 
 TEST(ModRighe, SenzaInizioIlLinkContaFinoAllaPrimaRiga)
 {
-    const GrigliaCondizioni griglia = ConChiavi({"Peso", "linkopen", "LinkOpen ", "Peso"});
+    const GrigliaCondizioni griglia = ConChiavi({"Peso", "LinkOp", "LinkOpen ", "Peso"});
     EXPECT_EQ(ContaCondizioniLink(griglia, 4), 4);
     EXPECT_EQ(ContaCondizioniLink(griglia, 6), 6) << "empty rows count";
     EXPECT_EQ(ContaCondizioniLink(griglia, 2000), 2000);
     EXPECT_EQ(ContaCondizioniLink(griglia, 0), 0);
     EXPECT_EQ(ContaCondizioniLink(griglia, -1), 0);
+    EXPECT_EQ(ContaCondizioniLink(ConChiavi({"Peso", "linkopen", "Peso"}), 3), 1) << "case does not count";
 }
 
 TEST(ModRighe, UnLinkPuoContarePiuDiNovantaRighe)

@@ -148,7 +148,7 @@ TEST_P(DialogoComune, LaStatisticaNonCambiaNulla)
     dialogo.Visibile.Poni(true);
     dialogo.Premi(ePulsanteDialogo::statistica);
     const auto attesa = std::pair(TrovaTipo(GetParam())->nIdStatistica, std::int16_t{4});
-    EXPECT_THAT(m_Ospite.statistica.aMostrate, ElementsAre(attesa));
+    EXPECT_THAT(m_Ospite.desktop.statistica.aMostrate, ElementsAre(attesa));
     EXPECT_TRUE(dialogo.Visibile.Valore());
     EXPECT_EQ(dialogo.sTag, "");
     dialogo.Premi(ePulsanteDialogo::chiudi);

@@ -7,23 +7,10 @@
 
 #include <algorithm>
 #include <numeric>
-#include <utility>
+#include <string>
 #include <vector>
 
 namespace ordavel::prove {
-
-/// Remembers what it was asked for.
-class StatisticaProva : public Statistica {
-public:
-    void Avvia() override {}
-    void Ferma() override {}
-    void MostraStatistica(std::int32_t nIdStatistica, std::int16_t nGioco) override
-    {
-        aMostrate.emplace_back(nIdStatistica, nGioco);
-    }
-
-    std::vector<std::pair<std::int32_t, std::int16_t>> aMostrate;
-};
 
 class OspiteProva : public OspiteDialoghi {
 public:
@@ -38,15 +25,21 @@ public:
         return aNumeri;
     }
     [[nodiscard]] Piattaforma& Desktop() override { return desktop; }
-    [[nodiscard]] Statistica& StatisticaSistema() override { return statistica; }
+    [[nodiscard]] GrigliaCondizioni& GetGridCond() override { return griglia; }
+    [[nodiscard]] const std::string& DirSistemi() const override { return sDirSistemi; }
+    [[nodiscard]] const std::string& PercorsoSalvaColonne() const override { return sPercorsoSalvaColonne; }
+    [[nodiscard]] Statistica& StatisticaSistema() override { return m_Statistica; }
 
     PiattaformaProva desktop;
-    StatisticaProva statistica;
+    GrigliaCondizioni griglia;
+    std::string sDirSistemi;
+    std::string sPercorsoSalvaColonne;
     std::vector<std::int16_t> aScelti;
     std::int16_t nGioco = 0;
 
 private:
     std::int16_t m_nClasse;
+    StatisticaProva m_Statistica{desktop.statistica};
 };
 
 } // namespace ordavel::prove

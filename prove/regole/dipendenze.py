@@ -25,6 +25,7 @@ CASA = {
     "StatoSviluppo.hpp": "core",
     "GrigliaCondizioni.hpp": "condizioni",
     "Controlli.hpp": "piattaforma",
+    "Dialogo.hpp": "piattaforma",
     "Piattaforma.hpp": "piattaforma",
     "Ordavel.hpp": "controllo",
 }

@@ -91,6 +91,15 @@ std::string PiattaformaCli::DialogoSalva(const RichiestaFile& /*richiesta*/)
     return m_sSalva;
 }
 
+void PiattaformaCli::MostraModale(Dialogo& dialogo)
+{
+    dialogo.Mostra();
+    if (m_Dialogo) {
+        m_Dialogo(dialogo);
+    }
+    dialogo.Visibile.Poni(false);
+}
+
 void PiattaformaCli::LasciaEventi()
 {
     if (m_Evento) {

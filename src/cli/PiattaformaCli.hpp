@@ -28,6 +28,9 @@ public:
     eRisposta MostraMessaggio(const Messaggio& messaggio) override;
     std::string DialogoApri(const RichiestaFile& richiesta) override;
     std::string DialogoSalva(const RichiestaFile& richiesta) override;
+    std::string ScegliCartella(const std::string& sCartella) override { return sCartella; }
+    /// Does what RispondiDialogo says; without that, nobody confirms.
+    void MostraModale(Dialogo& dialogo) override;
     void LasciaEventi() override;
     void PuntatoreOccupato(bool /*bOccupato*/) override {}
     [[nodiscard]] float SecondiDaMezzanotte() override;
@@ -35,6 +38,9 @@ public:
     /// What the next file dialog answers.
     void RispondiApri(std::string sFile) { m_sApri = std::move(sFile); }
     void RispondiSalva(std::string sFile) { m_sSalva = std::move(sFile); }
+
+    /// What the program does with the next dialogs, in the user's place.
+    void RispondiDialogo(std::function<void(Dialogo&)> azione) { m_Dialogo = std::move(azione); }
 
     /// From now on messages call a provisional file by the name that the user knows.
     void ChiamaFile(std::string sProvvisorio, std::string sFile);
@@ -62,6 +68,7 @@ private:
     std::string m_sProvvisorio;
     std::string m_sFile;
     std::function<void()> m_Evento;
+    std::function<void(Dialogo&)> m_Dialogo;
     std::vector<Messaggio> m_aMessaggi;
 };
 

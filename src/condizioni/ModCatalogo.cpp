@@ -2,6 +2,8 @@
 
 #include "condizioni/ModCatalogo.hpp"
 
+#include "core/ModTesti.hpp"
+
 #include <algorithm>
 
 namespace ordavel {
@@ -84,6 +86,14 @@ const VoceCatalogo* TrovaChiave(std::string_view sChiave) noexcept
 {
     const auto* voce = std::find_if(kCatalogo.begin(), kCatalogo.end(),
                                     [sChiave](const VoceCatalogo& v) { return v.sChiave == sChiave; });
+    return voce == kCatalogo.end() ? nullptr : voce;
+}
+
+const VoceCatalogo* TrovaChiaveSenzaCaso(std::string_view sChiave) noexcept
+{
+    const auto* voce = std::find_if(kCatalogo.begin(), kCatalogo.end(), [sChiave](const VoceCatalogo& v) {
+        return UgualiSenzaCaso(v.sChiave, sChiave);
+    });
     return voce == kCatalogo.end() ? nullptr : voce;
 }
 

@@ -73,4 +73,7 @@ struct VoceCatalogo {
 /// The row of a key, letter case included; nullptr when no kind has it.
 [[nodiscard]] const VoceCatalogo* TrovaChiave(std::string_view sChiave) noexcept;
 
+/// The same, letters taken without regard to case: how a key is compared while the user works on the list.
+[[nodiscard]] const VoceCatalogo* TrovaChiaveSenzaCaso(std::string_view sChiave) noexcept;
+
 } // namespace ordavel

@@ -23,6 +23,11 @@ std::string_view Chiave(TipoCondizione tipo)
     return TrovaTipo(tipo)->sChiave;
 }
 
+bool IsTipo(const Condizione& celle, TipoCondizione tipo)
+{
+    return UgualiSenzaCaso(celle.sCondizione, Chiave(tipo));
+}
+
 bool Piena(const GrigliaCondizioni& griglia, std::int32_t nRiga)
 {
     return !griglia.Riga(nRiga).sCondizione.empty();
@@ -105,7 +110,7 @@ std::int32_t UltimaRigaOccupata(const GrigliaCondizioni& griglia)
 std::int16_t ContaCondizioniLink(const GrigliaCondizioni& griglia, std::int32_t nRiga)
 {
     std::int16_t nRighe = 0;
-    for (; nRiga >= 1 && griglia.Riga(nRiga).sCondizione != Chiave(TipoCondizione::linkOpen); --nRiga) {
+    for (; nRiga >= 1 && !IsTipo(griglia.Riga(nRiga), TipoCondizione::linkOpen); --nRiga) {
         ++nRighe;
     }
     return nRighe;
@@ -153,7 +158,7 @@ void ApplicaImpostaPunti(GrigliaCondizioni& griglia, std::int32_t nDalla, std::i
     ControllaLimiti(nDalla, nAlla);
     for (std::int32_t nRiga = nDalla; nRiga <= nAlla; ++nRiga) {
         Condizione& celle = griglia.Riga(nRiga);
-        if (celle.sCondizione.find("Link") == std::string::npos) {
+        if (CercaSenzaCaso(celle.sCondizione, "Link") == std::string::npos) {
             celle.sPunti = sPunti;
             celle.sRecupero = sRecupero;
             celle.sQuadro = sQuadro;
@@ -183,7 +188,7 @@ std::int16_t GetQuantitaColDaEmulareFromGrid(const GrigliaCondizioni& griglia)
     std::int16_t nQuantita = 0;
     for (std::int32_t nRiga = 1; nRiga <= kCondizioniMassime; ++nRiga) {
         const Condizione& celle = griglia.Riga(nRiga);
-        if (celle.sCondizione == Chiave(TipoCondizione::emulatore)) {
+        if (IsTipo(celle, TipoCondizione::emulatore)) {
             nQuantita = LeggiIntero<std::int16_t>(QuantitaEmulatore(celle.sParametri));
         }
     }

@@ -5,7 +5,8 @@
 // Row 0 may be the selected one, and is then a row like the others: an insertion or a deletion there moves the
 // headings.
 //
-// Words. «filled»: the cell "Condizione" is not empty, as it stands; the headings in row 0 count as filled.
+// Words. «filled»: the cell "Condizione" is not empty, as it stands; the headings in row 0 count as filled. Keys are
+// compared without regard to case.
 // «board line»: "minimum,maximum,flag", the stored form of one recovery group; the n-th line is group n.
 
 #pragma once

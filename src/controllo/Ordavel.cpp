@@ -4,6 +4,7 @@
 
 #include "condizioni/ModCompila.hpp"
 #include "controllo/BarraComandi.hpp"
+#include "controllo/OspiteOrdavel.hpp"
 #include "core/ModFunzGeneriche.hpp"
 #include "core/ModGiochi.hpp"
 #include "core/ModNumeri.hpp"
@@ -24,7 +25,10 @@ void Riempi(Combo& combo, std::span<const std::string_view> aVoci)
 
 } // namespace
 
-Ordavel::Ordavel(Piattaforma& piattaforma) : m_Piattaforma(piattaforma)
+Ordavel::Ordavel(Piattaforma& piattaforma)
+    : m_Piattaforma(piattaforma),
+      m_Statistica(piattaforma.CreaStatistica()),
+      m_Ospite(std::make_unique<OspiteOrdavel>(*this, piattaforma, *m_Statistica))
 {
     m_Controlli.Toolbar2.aPulsanti = PulsantiOrdavel();
     m_Controlli.PanSviluppo.Visibile.Poni(false);
@@ -41,9 +45,13 @@ Ordavel::Ordavel(Piattaforma& piattaforma) : m_Piattaforma(piattaforma)
     m_Controlli.CmbTipoGioco.Indice.Poni(0);
     m_Controlli.CmbRid.Indice.Poni(0);
     SelezionaComboMotSviluppo();
+    m_Statistica->Avvia();
 }
 
-Ordavel::~Ordavel() = default;
+Ordavel::~Ordavel()
+{
+    m_Statistica->Ferma();
+}
 
 bool Ordavel::PoniPercorso(const std::string& sPercorso, std::string& sCampo)
 {
@@ -132,6 +140,7 @@ NumeriScelti Ordavel::GetNumeriSel() const
 void Ordavel::SetColonnaGrid(std::int32_t nId)
 {
     m_GrdCond.PoniCorrente(nId);
+    m_Controlli.GrdCond.PortaInVista(nId);
 }
 
 bool Ordavel::IsCondizionePresente(std::string_view sNome) const
@@ -154,6 +163,7 @@ bool Ordavel::VerificaCoerenzaLink()
 void Ordavel::LayOutGrid()
 {
     m_GrdCond.Svuota();
+    m_Controlli.GrdCond.PrimaColonna.Poni(1);
 }
 
 void Ordavel::ImpostaProfiloGioco()

@@ -9,27 +9,13 @@ namespace ordavel {
 
 DialogoCondizione::DialogoCondizione(OspiteDialoghi& ospite, TipoCondizione tipo,
                                      std::string_view sTitoloDialogo)
-    : sTitolo(sTitoloDialogo), m_Ospite(ospite), m_Tipo(tipo)
+    : DialogoConferma(ospite, TrovaTipo(tipo)->sDialogo, sTitoloDialogo), m_Tipo(tipo)
 {}
 
-void DialogoCondizione::Premi(ePulsanteDialogo pulsante)
+void DialogoCondizione::MostraStatistica()
 {
-    switch (pulsante) {
-    case ePulsanteDialogo::conferma:
-        if (VerificaCoerenza()) {
-            sTag = kTagConfermato;
-            Visibile.Poni(false);
-        }
-        return;
-    case ePulsanteDialogo::chiudi:
-        sTag.clear();
-        Visibile.Poni(false);
-        return;
-    case ePulsanteDialogo::statistica:
-        m_Ospite.StatisticaSistema().MostraStatistica(
-            TrovaTipo(m_Tipo)->nIdStatistica, static_cast<std::int16_t>(m_Ospite.GetIdCmbTipoGioco() + 1));
-        return;
-    }
+    Ospite().StatisticaSistema().MostraStatistica(
+        TrovaTipo(m_Tipo)->nIdStatistica, static_cast<std::int16_t>(Ospite().GetIdCmbTipoGioco() + 1));
 }
 
 Condizione DialogoCondizione::GetParametri() const
@@ -42,35 +28,11 @@ void DialogoCondizione::SetPuntiSuFrm(std::string_view sParam)
     if (sParam.empty()) {
         return;
     }
-    ConGestore(m_Ospite.Desktop(), "OrdavelSis.setPuntiSuFrm", [&] {
+    ConGestore(Ospite().Desktop(), "OrdavelSis.setPuntiSuFrm", [&] {
         if (Riempi(sParam)) {
             sTag = kTagRiempito;
         }
     });
-}
-
-bool DialogoCondizione::VerificaCoerenza()
-{
-    const std::string sMessaggio = MessaggioCoerenza();
-    if (!sMessaggio.empty()) {
-        m_Ospite.Desktop().MostraMessaggio(
-            {.icona = eIcona::avviso, .sTitolo = {}, .sTesto = sMessaggio, .pulsanti = ePulsanti::ok});
-    }
-    return sMessaggio.empty();
-}
-
-void DialogoCondizione::LoadComboquadroRec()
-{
-    CmbRecupero.Aggiungi(" ");
-    for (std::int16_t nGruppo = 1; nGruppo <= kGruppiRecupero; ++nGruppo) {
-        CmbRecupero.Aggiungi(std::to_string(nGruppo));
-    }
-    CmbRecupero.Indice.Poni(0);
-}
-
-bool DialogoCondizione::ConGruppo() const
-{
-    return !TogliBlank(CmbRecupero.Testo()).empty();
 }
 
 std::vector<std::string_view> PezziParametri(std::string_view sParam, std::size_t nPezzi)
@@ -78,6 +40,15 @@ std::vector<std::string_view> PezziParametri(std::string_view sParam, std::size_
     std::vector<std::string_view> aPezzi = Dividi(sParam, "|");
     aPezzi.resize(nPezzi);
     return aPezzi;
+}
+
+std::vector<std::string_view> DueRighe(std::string_view sPezzo)
+{
+    auto aRighe = Dividi(sPezzo, kCrLf);
+    if (aRighe.size() < 2) {
+        Solleva(eErrore::indice);
+    }
+    return aRighe;
 }
 
 } // namespace ordavel

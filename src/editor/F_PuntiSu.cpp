@@ -22,13 +22,6 @@ const RigaDialogo& RigaDi(TipoCondizione tipo)
     return *riga;
 }
 
-void Segna(SerieSpunte& serie, std::string_view sLista, std::string_view sSep)
-{
-    for (const std::string_view sValore : Dividi(sLista, sSep)) {
-        serie(LeggiIntero<std::int32_t>(sValore)).Segnata.Poni(true);
-    }
-}
-
 /// Puts the first two parts of a text into two boxes.
 void ScriviRange(std::array<CasellaTesto, 2>& aCaselle, std::string_view sTesto, std::string_view sSep)
 {
@@ -57,29 +50,18 @@ bool Nullo(const std::array<CasellaTesto, 2>& aCaselle)
 } // namespace
 
 F_PuntiSu::F_PuntiSu(OspiteDialoghi& ospite, TipoCondizione tipo)
-    : DialogoCondizione(ospite, tipo, RigaDi(tipo).sTitolo),
-      ChkPunti(RigaDi(tipo).nPrimo),
-      ChkRecupero(RigaDi(tipo).nPrimo),
-      m_Riga(RigaDi(tipo))
+    : DialogoLista(ospite, tipo, RigaDi(tipo).sTitolo, RigaDi(tipo).nPrimo), m_Riga(RigaDi(tipo))
 {
-    CollegaRegole();
-    LoadChk();
-    LoadComboquadroRec();
-    CaricaParametro();
-    CalcolaLimiti();
-}
-
-void F_PuntiSu::CollegaRegole()
-{
-    ChkPunti.AlClick([this](std::int32_t nValore) {
-        if (ConGruppo()) {
-            EscludiRecupero(nValore);
-        }
-    });
-    CmbRecupero.Indice.AlCambio([this] { AbilitaChkRecupero(); });
+    for (CasellaTesto* casella : {&TxtPunti[0], &TxtPunti[1], &TxtPuntiRec[0], &TxtPuntiRec[1]}) {
+        casella->bSoloCifre = m_Riga.bSoloCifre;
+    }
     if (m_Riga.parametro == eControlloParametro::divisore) {
         Combo1.Indice.AlCambio([this] { MostraDivisore(); });
     }
+    LoadChk();
+    F_PuntiSu::AbilitaChkRecupero();
+    CaricaParametro();
+    CalcolaLimiti();
 }
 
 void F_PuntiSu::CaricaParametro()
@@ -88,7 +70,7 @@ void F_PuntiSu::CaricaParametro()
         Combo1.Aggiungi(sVoce);
     }
     if (m_Riga.parametro == eControlloParametro::combo || m_Riga.parametro == eControlloParametro::divisore) {
-        Combo1.Indice.Poni(0);
+        Combo1.SelezionaPrima();
     }
 }
 
@@ -97,17 +79,13 @@ void F_PuntiSu::LoadChk()
     const std::int16_t nClasse = Ospite().classe();
     if (m_Riga.punti == eFamigliaPunti::lista) {
         const bool bDivisore = m_Riga.parametro == eControlloParametro::divisore;
-        for (SerieSpunte* serie : {&ChkPunti, &ChkRecupero}) {
-            serie->Estendi(bDivisore ? kUltimoResto : nClasse);
-        }
+        CaricaSpunte(bDivisore ? kUltimoResto : nClasse);
     }
     if (m_Riga.parametro == eControlloParametro::caselle) {
         ChkCaselle.Estendi(nClasse);
     }
     if (m_Riga.parametro == eControlloParametro::casella) {
-        for (std::int16_t nPosizione = 1; nPosizione <= nClasse; ++nPosizione) {
-            ObCaselle.Aggiungi(std::to_string(nPosizione));
-        }
+        ObCaselle.AggiungiNumeri(1, nClasse);
     }
 }
 
@@ -151,67 +129,36 @@ void F_PuntiSu::CalcolaLimiti()
     }
 }
 
-void F_PuntiSu::EscludiRecupero(std::int32_t nValore)
-{
-    const bool bAccettato = ChkPunti(nValore).Segnata.Valore();
-    Spunta& recupero = ChkRecupero(nValore);
-    if (bAccettato) {
-        recupero.Segnata.Poni(false);
-    }
-    recupero.Abilitato.Poni(!bAccettato);
-}
-
 void F_PuntiSu::AbilitaChkRecupero()
 {
-    const bool bGruppo = ConGruppo();
+    DialogoLista::AbilitaChkRecupero();
+    const bool bGruppo = ConGruppo(CmbRecupero);
     for (CasellaTesto& casella : TxtPuntiRec) {
         casella.Abilitato.Poni(bGruppo);
         if (!bGruppo) {
             casella.Testo.Poni({});
         }
     }
-    for (std::int32_t n = ChkRecupero.Primo(); n <= ChkRecupero.Ultimo(); ++n) {
-        if (bGruppo) {
-            EscludiRecupero(n);
-        } else {
-            ChkRecupero(n).Segnata.Poni(false);
-            ChkRecupero(n).Abilitato.Poni(false);
-        }
-    }
 }
 
 ValoriDialogo F_PuntiSu::Valori() const
 {
-    ValoriDialogo valori;
+    ValoriDialogo valori = DialogoLista::Valori();
     const bool bCasella = m_Riga.parametro == eControlloParametro::casella;
     valori.sScelta = bCasella ? ObCaselle.Testo() : Combo1.Testo();
     valori.aNumeri = ChkCaselle.Flag();
-    valori.aPunti = ChkPunti.Flag(UltimoValore());
-    valori.aRecupero = ChkRecupero.Flag(UltimoValore());
     valori.aRange = TestiRange(TxtPunti);
     valori.aRangeRec = TestiRange(TxtPuntiRec);
-    valori.sQuadro = CmbRecupero.Testo();
     return valori;
 }
 
 std::string F_PuntiSu::MessaggioCoerenza() const
 {
-    return m_Riga.punti == eFamigliaPunti::lista ? MessaggioLista() : MessaggioIntervallo();
-}
-
-std::string F_PuntiSu::MessaggioLista() const
-{
-    std::string sMessaggio;
-    if (!ChkPunti.Qualcuna()) {
-        sMessaggio = kImpostarePunti;
+    if (m_Riga.punti == eFamigliaPunti::intervallo) {
+        return MessaggioIntervallo();
     }
-    if (ConGruppo() && !ChkRecupero.Qualcuna()) {
-        sMessaggio = "Impostare i punti di recupero";
-    }
-    if (m_Riga.parametro == eControlloParametro::cifra && Combo1.Indice.Valore() < 0) {
-        sMessaggio = m_Riga.sManca;
-    }
-    return sMessaggio;
+    const bool bSenzaCifra = m_Riga.parametro == eControlloParametro::cifra && Combo1.Indice.Valore() < 0;
+    return bSenzaCifra ? std::string(m_Riga.sManca) : DialogoLista::MessaggioCoerenza();
 }
 
 std::string F_PuntiSu::MessaggioIntervallo() const
@@ -223,10 +170,10 @@ std::string F_PuntiSu::MessaggioIntervallo() const
     if (Nullo(TxtPunti)) {
         sMessaggio = kImpostarePunti;
     }
-    if (ConGruppo() && Invertito(TxtPuntiRec)) {
+    if (ConGruppo(CmbRecupero) && Invertito(TxtPuntiRec)) {
         sMessaggio = "Range punti recupero non valido";
     }
-    if (ConGruppo() && Nullo(TxtPuntiRec)) {
+    if (ConGruppo(CmbRecupero) && Nullo(TxtPuntiRec)) {
         sMessaggio = kImpostarePunti;
     }
     return sMessaggio;
@@ -234,15 +181,13 @@ std::string F_PuntiSu::MessaggioIntervallo() const
 
 void F_PuntiSu::LeggiPunti(const GrigliaCondizioni& griglia)
 {
+    if (m_Riga.punti == eFamigliaPunti::lista) {
+        return DialogoLista::LeggiPunti(griglia);
+    }
     const Condizione& celle = griglia.Riga(griglia.Corrente());
     LeggiParametro(celle.sParametri);
-    if (m_Riga.punti == eFamigliaPunti::lista) {
-        Segna(ChkPunti, celle.sPunti, "-");
-        Segna(ChkRecupero, celle.sRecupero, "-");
-    } else {
-        ScriviRange(TxtPunti, celle.sPunti, "-");
-        ScriviRange(TxtPuntiRec, celle.sRecupero, "-");
-    }
+    ScriviRange(TxtPunti, celle.sPunti, "-");
+    ScriviRange(TxtPuntiRec, celle.sRecupero, "-");
     SelezionaCombo(celle.sQuadro, CmbRecupero);
 }
 
@@ -261,7 +206,7 @@ void F_PuntiSu::LeggiParametro(std::string_view sCella)
         SelezionaCombo(sCella.substr(sCella.empty() ? 0 : sCella.size() - 1), Combo1);
         return;
     case eControlloParametro::caselle:
-        return Segna(ChkCaselle, Dietro(sCella, kCrLf), "-");
+        return SegnaLista(ChkCaselle, Dietro(sCella, kCrLf), "-");
     case eControlloParametro::casella:
         for (const std::string_view sPosizione : Dividi(Dietro(sCella, kCrLf), "-")) {
             SelezionaCombo(std::to_string(LeggiIntero<std::int32_t>(sPosizione)), ObCaselle);
@@ -280,10 +225,7 @@ bool F_PuntiSu::Riempi(std::string_view sParam)
         if (m_Riga.parametro == eControlloParametro::nessuno) {
             throw Errore(eErrore::membro, "Combo1");
         }
-        const auto aRighe = Dividi(aPezzi[0], kCrLf);
-        if (aRighe.size() < 2) {
-            Solleva(eErrore::indice);
-        }
+        const auto aRighe = DueRighe(aPezzi[0]);
         SelezionaCombo(aRighe[0], Combo1);
         RiempiValori(aRighe[1], aPezzi[1]);
         return true;
@@ -296,15 +238,6 @@ bool F_PuntiSu::Riempi(std::string_view sParam)
         return true;
     }
     return false;
-}
-
-void F_PuntiSu::RiempiValori(std::string_view sPunti, std::string_view sRecupero)
-{
-    Segna(ChkPunti, sPunti, ",");
-    if (!sRecupero.empty()) {
-        Segna(ChkRecupero, sRecupero, ",");
-        CmbRecupero.Indice.Poni(1);
-    }
 }
 
 void F_PuntiSu::RiempiIntervallo(std::string_view sPunti, std::string_view sRecupero)

@@ -2,8 +2,7 @@
 
 #pragma once
 
-#include "editor/DialogoCondizione.hpp"
-#include "editor/SerieSpunte.hpp"
+#include "editor/DialogoLista.hpp"
 #include "editor/TabellaDialoghi.hpp"
 
 #include <array>
@@ -11,7 +10,7 @@
 namespace ordavel {
 
 /// A common dialog. A control that its row does not give it stays empty and unused.
-class F_PuntiSu : public DialogoCondizione {
+class F_PuntiSu : public DialogoLista {
 public:
     /// Loads the dialog of a kind: boxes as long as the class, combos filled, limits shown.
     /// Fails    5: the kind has no common dialog
@@ -21,8 +20,6 @@ public:
 
     [[nodiscard]] const RigaDialogo& Riga() const noexcept { return m_Riga; }
 
-    SerieSpunte ChkPunti;                    ///< accepted values
-    SerieSpunte ChkRecupero;                 ///< values accepted for recovery
     std::array<CasellaTesto, 2> TxtPunti;    ///< accepted minimum and maximum
     std::array<CasellaTesto, 2> TxtPuntiRec; ///< the same for recovery
     Combo Combo1;                            ///< word, divisor or digit
@@ -35,20 +32,16 @@ protected:
     [[nodiscard]] ValoriDialogo Valori() const override;
     [[nodiscard]] std::string MessaggioCoerenza() const override;
     bool Riempi(std::string_view sParam) override;
+    [[nodiscard]] std::int32_t UltimoValore() const override;
+    void LeggiParametro(std::string_view sCella) override;
+    void AbilitaChkRecupero() override;
 
 private:
-    void CollegaRegole();
     void CaricaParametro();
     void LoadChk();
     void MostraDivisore();
     void CalcolaLimiti();
-    void AbilitaChkRecupero();
-    void EscludiRecupero(std::int32_t nValore);
-    [[nodiscard]] std::int32_t UltimoValore() const;
-    [[nodiscard]] std::string MessaggioLista() const;
     [[nodiscard]] std::string MessaggioIntervallo() const;
-    void LeggiParametro(std::string_view sCella);
-    void RiempiValori(std::string_view sPunti, std::string_view sRecupero);
     void RiempiIntervallo(std::string_view sPunti, std::string_view sRecupero);
 
     const RigaDialogo& m_Riga;

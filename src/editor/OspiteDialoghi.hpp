@@ -7,23 +7,6 @@
 
 namespace ordavel {
 
-/// Shows the statistics of a kind of condition over the draws of a game.
-class Statistica {
-public:
-    Statistica() = default;
-    Statistica(const Statistica&) = delete;
-    Statistica& operator=(const Statistica&) = delete;
-    virtual ~Statistica() = default;
-
-    /// Once, at the component's start and at its end.
-    virtual void Avvia() = 0;
-    virtual void Ferma() = 0;
-
-    /// Takes    nIdStatistica   number of the kind in the statistics' own numbering
-    ///          nGioco          game, from 1
-    virtual void MostraStatistica(std::int32_t nIdStatistica, std::int16_t nGioco) = 0;
-};
-
 /// The component as a dialog sees it.
 class OspiteDialoghi {
 public:
@@ -37,6 +20,11 @@ public:
     [[nodiscard]] virtual std::int16_t GetIdCmbTipoGioco() const = 0;
     /// The picks, compact and ascending.
     [[nodiscard]] virtual NumeriScelti GetNumeriSel() const = 0;
+    /// The conditions themselves.
+    [[nodiscard]] virtual GrigliaCondizioni& GetGridCond() = 0;
+    /// Folders of systems and of column files.
+    [[nodiscard]] virtual const std::string& DirSistemi() const = 0;
+    [[nodiscard]] virtual const std::string& PercorsoSalvaColonne() const = 0;
     [[nodiscard]] virtual Piattaforma& Desktop() = 0;
     [[nodiscard]] virtual Statistica& StatisticaSistema() = 0;
 };

@@ -8,6 +8,70 @@
 
 namespace ordavel {
 
+bool SoloCifre(char32_t nTasto) noexcept
+{
+    constexpr char32_t kInvio = '\r';
+    constexpr char32_t kIndietro = '\b';
+    return (nTasto >= '0' && nTasto <= '9') || nTasto == ',' || nTasto == kInvio || nTasto == kIndietro;
+}
+
+void ListaMultipla::Aggiungi(std::string_view sVoce)
+{
+    auto aVoci = Voci.Valore();
+    auto aScelte = Scelte.Valore();
+    aVoci.emplace_back(sVoce);
+    aScelte.push_back(false);
+    Voci.Poni(std::move(aVoci));
+    Scelte.Poni(std::move(aScelte));
+}
+
+void ListaMultipla::Seleziona(std::size_t nPosto, bool bScelta)
+{
+    auto aScelte = Scelte.Valore();
+    if (nPosto >= aScelte.size()) {
+        Solleva(eErrore::indice);
+    }
+    aScelte[nPosto] = bScelta;
+    Scelte.Poni(std::move(aScelte));
+}
+
+void Elenco::SelezionaTutte(bool bScelte)
+{
+    auto aRighe = Righe.Valore();
+    for (RigaElenco& riga : aRighe) {
+        riga.bScelta = bScelte;
+    }
+    Righe.Poni(std::move(aRighe));
+}
+
+void Foglio::Disponi(std::int32_t nRighe, std::int32_t nColonne)
+{
+    Corrente.Poni({});
+    Celle.Poni(std::vector(static_cast<std::size_t>(nRighe),
+                           std::vector<std::string>(static_cast<std::size_t>(nColonne))));
+}
+
+const std::string& Foglio::Testo(Posto posto) const
+{
+    const auto& aCelle = Celle.Valore();
+    const auto nRiga = static_cast<std::size_t>(posto.nRiga);
+    const auto nColonna = static_cast<std::size_t>(posto.nColonna);
+    // A negative place is beyond every end.
+    if (nRiga >= aCelle.size() || nColonna >= aCelle[nRiga].size()) {
+        Solleva(eErrore::indice);
+    }
+    return aCelle[nRiga][nColonna];
+}
+
+void Foglio::Scrivi(Posto posto, std::string_view sTesto)
+{
+    if (Testo(posto) != sTesto) {
+        auto aCelle = Celle.Valore();
+        aCelle[static_cast<std::size_t>(posto.nRiga)][static_cast<std::size_t>(posto.nColonna)] = sTesto;
+        Celle.Poni(std::move(aCelle));
+    }
+}
+
 void Combo::Svuota()
 {
     Indice.PoniSenzaRegola(-1);
@@ -19,6 +83,22 @@ void Combo::Aggiungi(std::string_view sVoce)
     auto aVoci = Voci.Valore();
     aVoci.emplace_back(sVoce);
     Voci.Poni(std::move(aVoci));
+}
+
+void Combo::AggiungiNumeri(std::int32_t nPrimo, std::int32_t nUltimo)
+{
+    auto aVoci = Voci.Valore();
+    for (std::int32_t n = nPrimo; n <= nUltimo; ++n) {
+        aVoci.push_back(std::to_string(n));
+    }
+    Voci.Poni(std::move(aVoci));
+}
+
+void Combo::SelezionaPrima()
+{
+    if (!Voci.Valore().empty()) {
+        Indice.Poni(0);
+    }
 }
 
 std::string Combo::Testo() const
@@ -70,6 +150,13 @@ VoceMenu& BarraStrumenti::Voce(std::string_view sChiave)
     throw Errore(eErrore::membro, sChiave);
 }
 
+SegniNumeri TuttiINumeri(bool bSegno) noexcept
+{
+    SegniNumeri aSegni;
+    aSegni.aElementi.fill(bSegno ? 1 : 0);
+    return aSegni;
+}
+
 bool SelettoreNumeri::Scelto(std::int32_t nNumero) const
 {
     return Scelti.Valore()(nNumero) != 0;
@@ -91,6 +178,22 @@ std::int32_t SelettoreNumeri::Conta() const noexcept
 void SelettoreNumeri::Svuota()
 {
     Scelti.Poni({});
+}
+
+bool VistaCondizioni::IsVisibile(std::int32_t nId) const noexcept
+{
+    const std::int32_t nPrima = PrimaColonna.Valore();
+    return nId >= nPrima && nId < nPrima + ColonneIntere.Valore();
+}
+
+void VistaCondizioni::PortaInVista(std::int32_t nId)
+{
+    const std::int32_t nSeguente = std::min(nId + 1, kCondizioniMassime);
+    if (nId < PrimaColonna.Valore()) {
+        PrimaColonna.Poni(std::max(nId, 1));
+    } else if (!IsVisibile(nSeguente)) {
+        PrimaColonna.Poni(std::min(nSeguente - ColonneIntere.Valore() + 1, nId));
+    }
 }
 
 } // namespace ordavel

@@ -1,0 +1,36 @@
+// OspiteOrdavel.hpp - the component as its dialogs see it.
+
+#pragma once
+
+#include "ordavel/Ordavel.hpp"
+
+#include "editor/OspiteDialoghi.hpp"
+
+namespace ordavel {
+
+class OspiteOrdavel : public OspiteDialoghi {
+public:
+    /// All three outlive it.
+    OspiteOrdavel(Ordavel& ordavel, Piattaforma& piattaforma, Statistica& statistica)
+        : m_Ordavel(ordavel), m_Piattaforma(piattaforma), m_Statistica(statistica)
+    {}
+
+    [[nodiscard]] std::int16_t classe() const override { return m_Ordavel.classe(); }
+    [[nodiscard]] std::int16_t GetIdCmbTipoGioco() const override { return m_Ordavel.GetIdCmbTipoGioco(); }
+    [[nodiscard]] NumeriScelti GetNumeriSel() const override { return m_Ordavel.GetNumeriSel(); }
+    [[nodiscard]] GrigliaCondizioni& GetGridCond() override { return m_Ordavel.GetGridCond(); }
+    [[nodiscard]] const std::string& DirSistemi() const override { return m_Ordavel.DirSistemi(); }
+    [[nodiscard]] const std::string& PercorsoSalvaColonne() const override
+    {
+        return m_Ordavel.PercorsoSalvaColonne();
+    }
+    [[nodiscard]] Piattaforma& Desktop() override { return m_Piattaforma; }
+    [[nodiscard]] Statistica& StatisticaSistema() override { return m_Statistica; }
+
+private:
+    Ordavel& m_Ordavel;
+    Piattaforma& m_Piattaforma;
+    Statistica& m_Statistica;
+};
+
+} // namespace ordavel
