@@ -31,6 +31,19 @@ TEST(PiattaformaCli, InformazioniEDomandeNonSiScrivono)
     EXPECT_EQ(desktop.Messaggi().size(), 2U);
 }
 
+TEST(PiattaformaCli, UnaFinestraFaQuelloCheIlProgrammaDice)
+{
+    PiattaformaCli desktop(false);
+    Dialogo dialogo("F_Prova", "Prova");
+    desktop.MostraModale(dialogo);
+    EXPECT_EQ(dialogo.sTag, "") << "nobody confirms";
+    desktop.RispondiDialogo(
+        [](Dialogo& mostrata) { mostrata.sTag = mostrata.Visibile.Valore() ? "ooo" : ""; });
+    desktop.MostraModale(dialogo);
+    EXPECT_EQ(dialogo.sTag, "ooo");
+    EXPECT_FALSE(dialogo.Visibile.Valore());
+}
+
 TEST(PiattaformaCli, ARispondereEIlProgramma)
 {
     PiattaformaCli desktop(false);

@@ -8,7 +8,6 @@
 #include "cli/Stampa.hpp"
 #include "core/FileBinario.hpp"
 #include "core/ModFunzGeneriche.hpp"
-#include "core/ModGestore.hpp"
 #include "core/ModGiochi.hpp"
 #include "core/ModNumeri.hpp"
 #include "persistenza/ModFileColonne.hpp"
@@ -29,11 +28,6 @@ using Orologio = std::chrono::steady_clock;
 /// A text of more than this is no list of conditions, and what it would take in memory is a multiple of it.
 constexpr std::int64_t kByteTestoMassimi = 8 * 1024 * 1024;
 constexpr const char* kTestoTroppoLungo = "il testo di un sistema non supera 8 MiB";
-
-eUscita Uscita(bool bFatto)
-{
-    return bFatto ? eUscita::fatto : eUscita::fallito;
-}
 
 bool Terminale(int nDescrittore)
 {
@@ -90,30 +84,13 @@ bool CreaSistema(Sessione& sessione, const std::string& sTesto, const std::strin
 {
     Imposta(LeggiTestoSistema(LeggiTesto(sTesto)), sessione.Sistema());
     ControllaUscita(sSistema, sTesto);
-    const bool bScritto = ScriviAlPosto(sessione.Desktop(), sSistema, [&](const std::string& sProvvisorio) {
-        std::string sFile = sProvvisorio;
-        return sessione.Sistema().Salva(sFile, true) && !sessione.Desktop().Critico();
-    });
+    const bool bScritto = SalvaAlPosto(sessione, sSistema);
     if (bScritto) {
         AvvisaRigheNascoste(sessione);
         // A system whose links do not match is worth a word now, and may be mended later.
         static_cast<void>(sessione.Sistema().VerificaCoerenzaLink());
     }
     return bScritto;
-}
-
-/// Runs a command's work; what it throws becomes a box.
-template <typename Lavoro> bool Protetto(Sessione& sessione, const std::string& sTitolo, Lavoro&& lavoro)
-{
-    bool bFatto = false;
-    ConGestore(sessione.Desktop(), sTitolo, [&] {
-        try {
-            bFatto = lavoro();
-        } catch (const TestoErrato& errore) {
-            sessione.Desktop().Errata(sTitolo, errore.what());
-        }
-    });
-    return bFatto;
 }
 
 /// Everything of a run that can be refused before it begins.

@@ -3,7 +3,9 @@
 #include "cli/Programma.hpp"
 
 #include "cli/Comandi.hpp"
+#include "cli/Modifiche.hpp"
 #include "cli/PiattaformaCli.hpp"
+#include "condizioni/ModCatalogo.hpp"
 #include "core/ModFunzGeneriche.hpp"
 #include "core/ModGiochi.hpp"
 #include "core/ModTesti.hpp"
@@ -21,12 +23,16 @@ namespace ordavel::cli {
 
 namespace {
 
-constexpr const char* kChiusura = "\nUn esempio:\n"
-                                  "  ordavel crea esempi/superenalotto.json sistema.sic\n"
-                                  "  ordavel mostra sistema.sic\n"
-                                  "  ordavel sviluppa sistema.sic -o colonne.col\n"
-                                  "  ordavel filtra altro.sic --da colonne.col -o meno.col\n"
-                                  "  ordavel misura 5 3 12 27 28 90\n";
+constexpr const char* kChiusura =
+    "\nUn esempio:\n"
+    "  ordavel crea esempi/superenalotto.json sistema.sic\n"
+    "  ordavel mostra sistema.sic\n"
+    "  ordavel sviluppa sistema.sic -o colonne.col\n"
+    "  ordavel filtra altro.sic --da colonne.col -o meno.col\n"
+    "  ordavel misura 5 3 12 27 28 90\n"
+    "  ordavel aggiungi sistema.sic --tipo Pari-Dispari --parametri 'Pari\\n2,3'\n"
+    "  ordavel aggiungi sistema.sic --file condizioni.cnd\n"
+    "  ordavel quadro sistema.sic --gruppo 1 --minimo 1 --massimo 2\n";
 
 /// A wrong use, in words.
 class UsoErrato : public std::runtime_error {
@@ -37,6 +43,9 @@ public:
 /// The words of all commands, and what the one that was given does.
 struct Riga {
     OpzioniCorsa corsa;
+    OpzioniAggiungi aggiungi;
+    OpzioniRighe righe;
+    OpzioniQuadro quadro;
     std::string sTesto;
     std::string sSistema;
     std::int16_t nClasse = 0;
@@ -107,6 +116,62 @@ void AggiungiMisura(CLI::App& programma, Riga& riga)
         [&riga] { riga.azione = [&riga] { return MisuraColonna(riga.nClasse, riga.aNumeri, riga.bJson); }; });
 }
 
+void AggiungiAggiungi(CLI::App& programma, Riga& riga)
+{
+    OpzioniAggiungi& opzioni = riga.aggiungi;
+    CLI::App* comando = NuovoComando(programma, "aggiungi", "Aggiunge condizioni a un sistema");
+    comando->add_option("SISTEMA", opzioni.sSistema, "Il file .sic")->required();
+    comando->add_option("--tipo", opzioni.sTipo, "Una condizione, col suo nome");
+    comando->add_option(
+        "--parametri", opzioni.sParametri,
+        "I suoi valori: elenco o \"minimo,massimo\", \"|\" e quelli di recupero; dove serve una "
+        "parola, la parola e un a capo (\\n) davanti");
+    comando->add_option("--file", opzioni.sFile, "Tutte le condizioni di un file .cnd");
+    comando->add_option("--colonne", opzioni.sColonne, "Le colonne di un testo, una condizione l'una");
+    comando->add_option("--punti", opzioni.aPunti, "I punti delle colonne, separati da virgole")
+        ->delimiter(',');
+    comando->add_option("--recupero", opzioni.aRecupero, "I punti di recupero delle colonne")->delimiter(',');
+    comando->add_option("--quadro", opzioni.nQuadro, "Il gruppo di recupero delle colonne, da 1 a 20");
+    comando->callback([&riga] { riga.azione = [&riga] { return Aggiungi(riga.aggiungi); }; });
+}
+
+CLI::App* AggiungiTratto(CLI::App& programma, Riga& riga, const std::string& sNome, const std::string& sScopo)
+{
+    CLI::App* comando = NuovoComando(programma, sNome, sScopo);
+    comando->add_option("SISTEMA", riga.righe.sSistema, "Il file .sic")->required();
+    comando->add_option("--da", riga.righe.nDa, "La prima condizione");
+    comando->add_option("--a", riga.righe.nA, "L'ultima condizione");
+    return comando;
+}
+
+void AggiungiTogli(CLI::App& programma, Riga& riga)
+{
+    CLI::App* comando = AggiungiTratto(programma, riga, "togli", "Toglie condizioni da un sistema");
+    comando->get_option("--da")->required();
+    comando->get_option("--a")->required();
+    comando->callback([&riga] { riga.azione = [&riga] { return Togli(riga.righe); }; });
+}
+
+void AggiungiSalvaCondizioni(CLI::App& programma, Riga& riga)
+{
+    CLI::App* comando =
+        AggiungiTratto(programma, riga, "salva-condizioni", "Copia condizioni in un file a parte");
+    comando->add_option("FILE", riga.righe.sFile, "Il file .cnd da scrivere")->required();
+    comando->callback([&riga] { riga.azione = [&riga] { return SalvaCondizioni(riga.righe); }; });
+}
+
+void AggiungiQuadro(CLI::App& programma, Riga& riga)
+{
+    OpzioniQuadro& opzioni = riga.quadro;
+    CLI::App* comando = NuovoComando(programma, "quadro", "Imposta un gruppo del quadro recuperi");
+    comando->add_option("SISTEMA", opzioni.sSistema, "Il file .sic")->required();
+    comando->add_option("--gruppo", opzioni.nGruppo, "Il gruppo, da 1 a 20")->required();
+    comando->add_option("--minimo", opzioni.nMinimo, "Quante condizioni recuperate almeno");
+    comando->add_option("--massimo", opzioni.nMassimo, "Quante al massimo");
+    comando->add_flag("--togli", opzioni.bTogli, "Mette il gruppo fuori uso");
+    comando->callback([&riga] { riga.azione = [&riga] { return ImpostaQuadro(riga.quadro); }; });
+}
+
 void AggiungiComandi(CLI::App& programma, Riga& riga)
 {
     TraduciAiuto(programma);
@@ -119,6 +184,10 @@ void AggiungiComandi(CLI::App& programma, Riga& riga)
         ->add_option("--da", riga.corsa.sOrigine, "Il file .col da filtrare")
         ->required();
     AggiungiMisura(programma, riga);
+    AggiungiAggiungi(programma, riga);
+    AggiungiTogli(programma, riga);
+    AggiungiQuadro(programma, riga);
+    AggiungiSalvaCondizioni(programma, riga);
 }
 
 /// Steps of one letter (put in, taken out, changed) from one word to another.
@@ -140,6 +209,14 @@ std::size_t Distanza(std::string_view sUno, std::string_view sDue)
     return aRiga.back();
 }
 
+/// The word of a list that takes the fewest steps.
+std::string PiuVicina(const std::string& sParola, const std::vector<std::string>& aParole)
+{
+    return *std::min_element(aParole.begin(), aParole.end(), [&](const auto& a, const auto& b) {
+        return Distanza(sParola, a) < Distanza(sParola, b);
+    });
+}
+
 /// The first word must be a command or an option; a wrong one is named, with the nearest command.
 void ControllaComando(CLI::App& programma, int nArgomenti, const char* const* aArgomenti)
 {
@@ -152,11 +229,10 @@ void ControllaComando(CLI::App& programma, int nArgomenti, const char* const* aA
     if (sParola.starts_with('-') || std::any_of(aComandi.begin(), aComandi.end(), bUguale)) {
         return;
     }
-    const auto* vicino =
-        *std::min_element(aComandi.begin(), aComandi.end(), [&](const auto* a, const auto* b) {
-            return Distanza(sParola, a->get_name()) < Distanza(sParola, b->get_name());
-        });
-    throw UsoErrato("comando sconosciuto \"" + sParola + "\"; forse \"" + vicino->get_name() + "\"");
+    std::vector<std::string> aNomi;
+    std::transform(aComandi.begin(), aComandi.end(), std::back_inserter(aNomi),
+                   [](const CLI::App* comando) { return comando->get_name(); });
+    throw UsoErrato("comando sconosciuto \"" + sParola + "\"; forse \"" + PiuVicina(sParola, aNomi) + "\"");
 }
 
 void ControllaGioco(const Riga& riga)
@@ -169,6 +245,78 @@ void ControllaGioco(const Riga& riga)
         sNomi.append(sNomi.empty() ? "" : ", ").append(gioco.sNome);
     }
     throw UsoErrato("gioco sconosciuto \"" + riga.corsa.sGioco + "\"; i giochi sono " + sNomi);
+}
+
+void ControllaGruppo(std::int32_t nGruppo, std::int32_t nMinimo)
+{
+    if (nGruppo < nMinimo || nGruppo > kGruppiRecupero) {
+        throw UsoErrato("i gruppi di recupero vanno da 1 a " + std::to_string(kGruppiRecupero) + ", non " +
+                        std::to_string(nGruppo));
+    }
+}
+
+void ControllaTipo(const std::string& sTipo)
+{
+    if (sTipo.empty() || TrovaChiaveSenzaCaso(sTipo) != nullptr) {
+        return;
+    }
+    std::vector<std::string> aChiavi;
+    for (const VoceCatalogo& voce : Catalogo()) {
+        aChiavi.emplace_back(voce.sChiave);
+    }
+    throw UsoErrato("condizione sconosciuta \"" + sTipo + "\"; forse \"" + PiuVicina(sTipo, aChiavi) + "\"");
+}
+
+void ControllaAggiungi(const Riga& riga)
+{
+    const OpzioniAggiungi& opzioni = riga.aggiungi;
+    const int nFonti = (opzioni.sTipo.empty() ? 0 : 1) + (opzioni.sFile.empty() ? 0 : 1) +
+                       (opzioni.sColonne.empty() ? 0 : 1);
+    if (nFonti != 1) {
+        throw UsoErrato("serve una sola cosa tra --tipo, --file e --colonne");
+    }
+    ControllaTipo(opzioni.sTipo);
+    if (!opzioni.sParametri.empty() && opzioni.sTipo.empty()) {
+        throw UsoErrato("--parametri va con --tipo");
+    }
+    const bool bPunti = !opzioni.aPunti.empty() || !opzioni.aRecupero.empty() || opzioni.nQuadro != 0;
+    if (bPunti && opzioni.sColonne.empty()) {
+        throw UsoErrato("--punti, --recupero e --quadro vanno con --colonne");
+    }
+    if (!opzioni.sColonne.empty() && opzioni.aPunti.empty()) {
+        throw UsoErrato("--colonne vuole --punti");
+    }
+    if (opzioni.aRecupero.empty() != (opzioni.nQuadro == 0)) {
+        throw UsoErrato("--recupero e --quadro vanno insieme");
+    }
+    ControllaGruppo(opzioni.nQuadro, 0);
+    for (const std::int32_t nValore : opzioni.aRecupero) {
+        if (std::find(opzioni.aPunti.begin(), opzioni.aPunti.end(), nValore) != opzioni.aPunti.end()) {
+            throw UsoErrato("il " + std::to_string(nValore) + " non può stare tra i punti e nel recupero");
+        }
+    }
+}
+
+void ControllaTratto(const Riga& riga, bool bServe)
+{
+    const std::int32_t nMinimo = bServe ? 1 : 0;
+    if (riga.righe.nDa < nMinimo || riga.righe.nA < nMinimo) {
+        throw UsoErrato("le condizioni si contano da 1");
+    }
+}
+
+void ControllaQuadro(const Riga& riga)
+{
+    const OpzioniQuadro& opzioni = riga.quadro;
+    ControllaGruppo(opzioni.nGruppo, 1);
+    const bool bLimiti = opzioni.nMinimo >= 0 && opzioni.nMassimo >= 0;
+    if (opzioni.bTogli == bLimiti || (!bLimiti && (opzioni.nMinimo >= 0 || opzioni.nMassimo >= 0))) {
+        throw UsoErrato("servono --minimo e --massimo, oppure --togli");
+    }
+    if (opzioni.nMassimo < opzioni.nMinimo || opzioni.nMassimo > kCondizioniMassime) {
+        throw UsoErrato("il minimo non supera il massimo, e il massimo non supera " +
+                        std::to_string(kCondizioniMassime));
+    }
 }
 
 void ControllaColonna(const Riga& riga)
@@ -207,6 +355,23 @@ std::string Traduci(const CLI::ParseError& errore)
     return sTesto;
 }
 
+/// What the library cannot see: values beyond their bounds, options that do not go together.
+void Controlla(const CLI::App& programma, const Riga& riga)
+{
+    const std::vector<std::pair<const char*, std::function<void()>>> aControlli{{"misura", [&] { ControllaColonna(riga); }},
+                                                                                {"sviluppa", [&] { ControllaGioco(riga); }},
+                                                                                {"filtra", [&] { ControllaGioco(riga); }},
+                                                                                {"aggiungi", [&] { ControllaAggiungi(riga); }},
+                                                                                {"togli", [&] { ControllaTratto(riga, true); }},
+                                                                                {"salva-condizioni", [&] { ControllaTratto(riga, false); }},
+                                                                                {"quadro", [&] { ControllaQuadro(riga); }}};
+    for (const auto& [sComando, controlla] : aControlli) {
+        if (programma.got_subcommand(sComando)) {
+            controlla();
+        }
+    }
+}
+
 eUscita Interpreta(CLI::App& programma, Riga& riga, int nArgomenti, const char* const* aArgomenti)
 {
     ControllaComando(programma, nArgomenti, aArgomenti);
@@ -221,10 +386,7 @@ eUscita Interpreta(CLI::App& programma, Riga& riga, int nArgomenti, const char* 
     if (!riga.azione) {
         throw UsoErrato("manca il comando");
     }
-    ControllaGioco(riga);
-    if (programma.got_subcommand("misura")) {
-        ControllaColonna(riga);
-    }
+    Controlla(programma, riga);
     return riga.azione();
 }
 

@@ -2,8 +2,10 @@
 
 #include "cli/Sessione.hpp"
 
+#include "cli/TestoErrato.hpp"
 #include "core/FileBinario.hpp"
 #include "core/ModFunzGeneriche.hpp"
+#include "core/ModGestore.hpp"
 
 #include <filesystem>
 #include <random>
@@ -158,6 +160,27 @@ bool ScriviAlPosto(PiattaformaCli& desktop, const std::string& sFile,
     fs::rename(sProvvisorio, sVero, codice);
     Controlla(codice, sFile);
     return true;
+}
+
+bool SalvaAlPosto(Sessione& sessione, const std::string& sSistema)
+{
+    return ScriviAlPosto(sessione.Desktop(), sSistema, [&](const std::string& sProvvisorio) {
+        std::string sFile = sProvvisorio;
+        return sessione.Sistema().Salva(sFile, true) && !sessione.Desktop().Critico();
+    });
+}
+
+bool Protetto(Sessione& sessione, const std::string& sTitolo, const std::function<bool()>& lavoro)
+{
+    bool bFatto = false;
+    ConGestore(sessione.Desktop(), sTitolo, [&] {
+        try {
+            bFatto = lavoro();
+        } catch (const TestoErrato& errore) {
+            sessione.Desktop().Errata(sTitolo, errore.what());
+        }
+    });
+    return bFatto;
 }
 
 } // namespace ordavel::cli

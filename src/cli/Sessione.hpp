@@ -64,4 +64,12 @@ void ControllaUscita(const std::string& sFile, const std::string& sIngresso);
 bool ScriviAlPosto(PiattaformaCli& desktop, const std::string& sFile,
                    const std::function<bool(const std::string& sProvvisorio)>& scrivi);
 
+/// Writes the session's system in the place of the file, safely.
+/// Gives    whether it is in place; a failure was shown
+bool SalvaAlPosto(Sessione& sessione, const std::string& sSistema);
+
+/// Runs a command's work; what it throws becomes a box.
+/// Gives    what the work gives; false when it failed
+bool Protetto(Sessione& sessione, const std::string& sTitolo, const std::function<bool()>& lavoro);
+
 } // namespace ordavel::cli

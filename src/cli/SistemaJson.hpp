@@ -11,21 +11,16 @@
 
 #include "ordavel/Ordavel.hpp"
 
+#include "cli/TestoErrato.hpp"
+
 #include <nlohmann/json.hpp>
 
 #include <ostream>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace ordavel::cli {
-
-/// What is wrong with a text, in words for its author.
-class TestoErrato : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
 
 /// A system as a text states it.
 struct TestoSistema {

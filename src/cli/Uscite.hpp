@@ -12,4 +12,10 @@ enum class eUscita : int {
     interrotto = 130, ///< stopped by the user; what was kept is written
 };
 
+/// The exit code of a command that did its work, or did not.
+[[nodiscard]] constexpr eUscita Uscita(bool bFatto) noexcept
+{
+    return bFatto ? eUscita::fatto : eUscita::fallito;
+}
+
 } // namespace ordavel::cli
