@@ -48,7 +48,8 @@ TEST(ModTestoCelle, IlTestoVerticaleHaUnaLetteraPerRiga)
 {
     EXPECT_EQ(ScriviVerticale("Ponte", 1), "P\r\no\r\nn\r\nt\r\ne");
     EXPECT_EQ(ScriviVerticale("a b", 1), "a\r\n \r\nb");
-    EXPECT_EQ(Dividi(ScriviVerticale("LinkOpen", 1), "\r\n").size(), 8);
+    const std::string sLink = ScriviVerticale("LinkOpen", 1);
+    EXPECT_EQ(Dividi(sLink, "\r\n").size(), 8);
 }
 
 TEST(ModTestoCelle, IPezziDelTestoVerticaleHannoLaLunghezzaChiesta)

@@ -14,8 +14,11 @@ namespace ordavel {
 namespace {
 
 using prove::NumeroErrore;
+using testing::AllOf;
+using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::SizeIs;
 
 /// Writes down who heard of a value.
 template <typename T> struct Ascolti {
@@ -161,6 +164,39 @@ TEST(Combo, SvuotaToglieTuttoSenzaLaRegola)
     EXPECT_THAT(combo.Voci.Valore(), IsEmpty());
 }
 
+TEST(Combo, INumeriSiAggiungonoInFondo)
+{
+    Combo combo = ComboDi({" "});
+    combo.AggiungiNumeri(9, 11);
+    EXPECT_THAT(combo.Voci.Valore(), ElementsAre(" ", "9", "10", "11"));
+    EXPECT_EQ(combo.Indice.Valore(), -1);
+}
+
+TEST(Combo, UnNumeroSoloEUnaVoceEUnUltimoMinoreNessuna)
+{
+    Combo combo;
+    combo.AggiungiNumeri(0, 0);
+    combo.AggiungiNumeri(1, 0);
+    combo.AggiungiNumeri(1, -5);
+    EXPECT_THAT(combo.Voci.Valore(), ElementsAre("0"));
+}
+
+TEST(Combo, LaPrimaVoceSiSelezionaConLaRegola)
+{
+    Combo combo = ComboDi({"a", "b"});
+    Ascolti ascolti(combo.Indice);
+    combo.SelezionaPrima();
+    EXPECT_EQ(combo.Testo(), "a");
+    EXPECT_EQ(ascolti.sSentiti, "rv");
+}
+
+TEST(Combo, SenzaVociNonCEUnaPrima)
+{
+    Combo combo;
+    combo.SelezionaPrima();
+    EXPECT_EQ(combo.Indice.Valore(), -1);
+}
+
 TEST(SelezionaCombo, IlTestoEsattoSiSceglie)
 {
     Combo combo = ComboDi({"5", "6"});
@@ -279,6 +315,29 @@ TEST(SelettoreNumeri, FuoriDa1A90EUnIndiceSbagliato)
         EXPECT_EQ(NumeroErrore([&] { (void)selettore.Scelto(nNumero); }), 9) << nNumero;
     }
     EXPECT_EQ(selettore.Conta(), 0);
+}
+
+TEST(SelettoreNumeri, AllInizioTuttiINumeriSonoAbilitati)
+{
+    const SelettoreNumeri selettore;
+    EXPECT_EQ(selettore.Abilitati.Valore(), TuttiINumeri(true));
+    EXPECT_EQ(selettore.Scelti.Valore(), TuttiINumeri(false));
+}
+
+TEST(SelettoreNumeri, TuttiINumeriSonoNovanta)
+{
+    EXPECT_THAT(TuttiINumeri(true).aElementi, AllOf(SizeIs(90), Each(1)));
+    EXPECT_THAT(TuttiINumeri(false).aElementi, AllOf(SizeIs(90), Each(0)));
+}
+
+TEST(SelettoreNumeri, LaLogicaSceglieAncheUnNumeroSpento)
+{
+    SelettoreNumeri selettore;
+    selettore.Abilitati.Poni(TuttiINumeri(false));
+    selettore.Seleziona(5, true);
+    EXPECT_TRUE(selettore.Scelto(5));
+    selettore.Svuota();
+    EXPECT_EQ(selettore.Abilitati.Valore(), TuttiINumeri(false));
 }
 
 } // namespace

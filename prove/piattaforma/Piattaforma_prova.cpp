@@ -1,4 +1,4 @@
-// Piattaforma_prova.cpp - the form of a failure box, the busy pointer, and the played desktop itself.
+// Piattaforma_prova.cpp - failure boxes, the busy pointer, the lack of statistics, and the played desktop itself.
 
 #include "ordavel/Piattaforma.hpp"
 
@@ -44,6 +44,26 @@ TEST(Piattaforma, IlPuntatoreTornaNormaleAncheDopoUnFallimento)
     } catch (const Errore&) {
         EXPECT_FALSE(piattaforma.Occupato());
     }
+}
+
+TEST(Piattaforma, SenzaStatisticheLoDiceAChiLeChiede)
+{
+    PiattaformaProva piattaforma;
+    const auto statistica = piattaforma.Piattaforma::CreaStatistica();
+    statistica->MostraStatistica(12, 3);
+    EXPECT_THAT(piattaforma.Messaggi(), ElementsAre(Messaggio{.icona = eIcona::informazione,
+                                                              .sTitolo = "",
+                                                              .sTesto = "Statistica non disponibile",
+                                                              .pulsanti = ePulsanti::ok}));
+}
+
+TEST(Piattaforma, SenzaStatisticheLAvvioELaFineTacciono)
+{
+    PiattaformaProva piattaforma;
+    const auto statistica = piattaforma.Piattaforma::CreaStatistica();
+    statistica->Avvia();
+    statistica->Ferma();
+    EXPECT_THAT(piattaforma.Messaggi(), testing::IsEmpty());
 }
 
 TEST(PiattaformaProva, LeRisposteEsconoNellOrdineDelCopione)

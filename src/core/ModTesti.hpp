@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 namespace ordavel {
@@ -14,6 +15,12 @@ inline constexpr std::string_view kCrLf = "\r\n";
 /// Takes    sSeparatore   not empty
 /// Gives    one part more than there are separators; no part at all for an empty text
 [[nodiscard]] std::vector<std::string_view> Dividi(std::string_view sTesto, std::string_view sSeparatore);
+
+/// The parts point into the text: one that is gone at the end of the call has none.
+template <typename Testo>
+requires std::is_same_v<std::remove_const_t<Testo>, std::string> std::vector<std::string_view>
+Dividi(Testo&& sTesto, std::string_view sSeparatore)
+= delete;
 
 /// The text without leading and trailing blanks. Only blanks: line breaks and tabs stay.
 [[nodiscard]] std::string_view TogliBlank(std::string_view sTesto) noexcept;

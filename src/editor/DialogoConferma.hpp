@@ -28,7 +28,7 @@ public:
     void Premi(ePulsanteDialogo pulsante);
 
     /// Tests the state and shows the last of the messages that it has collected.
-    [[nodiscard]] bool VerificaCoerenza();
+    [[nodiscard]] virtual bool VerificaCoerenza();
 
 protected:
     /// The message of the last failing test; empty when all pass.

@@ -122,11 +122,4 @@ std::vector<ColonnaInGriglia> F_InsColonne::Colonne() const
     return aColonne;
 }
 
-void F_InsColonne::Conferma()
-{
-    if (!ListView1.Righe.Valore().empty()) {
-        DialogoConferma::Conferma();
-    }
-}
-
 } // namespace ordavel

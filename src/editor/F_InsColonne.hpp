@@ -39,6 +39,9 @@ public:
     void XPButton2();
     void XPButton3();
 
+    /// Is there any line? When there is none, nothing is said.
+    [[nodiscard]] bool VerificaCoerenza() override { return !ListView1.Righe.Valore().empty(); }
+
     /// The columns of the list in order, each with the points that were set for it.
     [[nodiscard]] std::vector<ColonnaInGriglia> Colonne() const;
 
@@ -48,10 +51,6 @@ public:
     Elenco ListView1;       ///< "Colonna", "Punti", "Recupero", "Quadro Rec" behind a running number
     Controllo PanPunti;     ///< the panel of points, hidden at first
     PannelloPunti Pannello; ///< what stands in it
-
-protected:
-    /// An empty list is not confirmed, and nothing is said.
-    void Conferma() override;
 
 private:
     std::vector<NumeriScelti> m_aNumeri; ///< of the line with the running number i, from 1, at i - 1

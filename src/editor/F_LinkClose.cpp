@@ -47,11 +47,10 @@ Condizione F_LinkClose::GetParametri() const
 
 void F_LinkClose::LeggiPunti(const GrigliaCondizioni& griglia)
 {
-    const auto nVoci = static_cast<std::int64_t>(List1.Voci.Valore().size());
+    const double nUltimo = static_cast<double>(List1.Voci.Valore().size()) - 1;
     for (const std::string_view sPosto : Dividi(griglia.Riga(griglia.Corrente()).sPunti, "-")) {
-        const auto nPosto = LeggiIntero<std::int32_t>(sPosto);
-        if (nPosto < nVoci) {
-            List1.Seleziona(static_cast<std::size_t>(nPosto), true);
+        if (LeggiNumero(sPosto) <= nUltimo) {
+            List1.Seleziona(LeggiIntero<std::uint32_t>(sPosto), true);
         }
     }
 }

@@ -10,6 +10,12 @@ namespace ordavel {
 
 namespace {
 
+/// The selected number as text; "0" without a selection.
+std::string NumeroScelto(const Combo& combo)
+{
+    return std::to_string(LeggiIntero<std::int32_t>(combo.Testo()));
+}
+
 void SelezionaNumero(std::string_view sTesto, Combo& combo)
 {
     SelezionaCombo(std::to_string(LeggiIntero<std::int32_t>(sTesto)), combo);
@@ -30,8 +36,8 @@ F_PuntiSuGruppiDiConsecutivi::F_PuntiSuGruppiDiConsecutivi(OspiteDialoghi& ospit
 ValoriDialogo F_PuntiSuGruppiDiConsecutivi::Valori() const
 {
     ValoriDialogo valori = DialogoLista::Valori();
-    valori.sPasso = CmbPasso.Testo();
-    valori.sGruppo = CmbLenGruppo.Testo();
+    valori.sPasso = NumeroScelto(CmbPasso);
+    valori.sGruppo = NumeroScelto(CmbLenGruppo);
     return valori;
 }
 

@@ -3,6 +3,7 @@
 #include "editor/F_PuntiSuSequenze.hpp"
 
 #include "condizioni/ModParole.hpp"
+#include "core/ModNumeri.hpp"
 #include "core/ModTesti.hpp"
 
 #include <array>
@@ -66,7 +67,7 @@ ValoriDialogo F_PuntiSuSequenze::Valori() const
 {
     ValoriDialogo valori = DialogoLista::Valori();
     valori.sSchema = LabSequenza.Testo.Valore();
-    valori.sPasso = CmbPasso.Testo();
+    valori.sPasso = std::to_string(LeggiIntero<std::int32_t>(CmbPasso.Testo())); // 0 without a selection
     valori.aConsec = ChkConsec.Flag();
     valori.aConsecRec = ChkConsecR.Flag();
     return valori;

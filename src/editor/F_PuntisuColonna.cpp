@@ -29,7 +29,8 @@ ValoriDialogo F_PuntisuColonna::Valori() const
 
 void F_PuntisuColonna::LeggiParametro(std::string_view sCella)
 {
-    for (const std::string_view sNumero : Dividi(Sostituisci(sCella, kCrLf, ""), "-")) {
+    const std::string sLista = Sostituisci(sCella, kCrLf, "");
+    for (const std::string_view sNumero : Dividi(sLista, "-")) {
         SelnovoNumeri1.Seleziona(LeggiIntero<std::int32_t>(sNumero), true);
     }
 }
