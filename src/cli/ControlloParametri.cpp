@@ -51,7 +51,7 @@ void ControllaIntervallo(std::string_view sIntervallo)
 /// The pieces between "|", of which a string may have nMassimi.
 std::vector<std::string_view> Pezzi(std::string_view sParam, std::size_t nMassimi)
 {
-    const auto aPezzi = Dividi(sParam, "|");
+    auto aPezzi = Dividi(sParam, "|");
     if (aPezzi.empty() || aPezzi.size() > nMassimi) {
         Rifiuta("un testo di non più di " + std::to_string(nMassimi) + " parti separate da \"|\"", sParam);
     }

@@ -52,8 +52,10 @@ bool Nullo(const std::array<CasellaTesto, 2>& aCaselle)
 F_PuntiSu::F_PuntiSu(OspiteDialoghi& ospite, TipoCondizione tipo)
     : DialogoLista(ospite, tipo, RigaDi(tipo).sTitolo, RigaDi(tipo).nPrimo), m_Riga(RigaDi(tipo))
 {
-    for (CasellaTesto* casella : {&TxtPunti[0], &TxtPunti[1], &TxtPuntiRec[0], &TxtPuntiRec[1]}) {
-        casella->bSoloCifre = m_Riga.bSoloCifre;
+    for (auto* caselle : {&TxtPunti, &TxtPuntiRec}) {
+        for (CasellaTesto& casella : *caselle) {
+            casella.bSoloCifre = m_Riga.bSoloCifre;
+        }
     }
     if (m_Riga.parametro == eControlloParametro::divisore) {
         Combo1.Indice.AlCambio([this] { MostraDivisore(); });
