@@ -10,6 +10,7 @@
 #include "ordavel/records.hpp"
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -101,6 +102,48 @@ struct Barra : Controllo {
     Stato<std::int32_t> Valore;
 };
 
+/// A slider.
+struct Cursore : Controllo {
+    Stato<std::int32_t> Minimo;
+    Stato<std::int32_t> Massimo;
+    Stato<std::int32_t> Valore;
+};
+
+/// A colour as 0xBBGGRR.
+using Colore = std::int32_t;
+
+/// A text at a place of a drawing, in pixels from its upper left corner.
+struct Scritta {
+    std::int32_t nX = 0;
+    std::int32_t nY = 0;
+    Colore nColore = 0;
+    std::string sTesto;
+
+    [[nodiscard]] friend bool operator==(const Scritta&, const Scritta&) = default;
+};
+
+/// A drawing of texts. The view says how high it is.
+struct Disegno : Controllo {
+    Stato<std::int32_t> Altezza{40};
+    Stato<std::vector<Scritta>> Scritte;
+};
+
+/// One node of a tree.
+struct NodoAlbero {
+    std::string sChiave;
+    std::string sPadre; ///< key of its parent, empty for the root
+    std::string sTesto;
+    std::string sEtichetta; ///< its tag
+    bool bEspanso = false;
+
+    [[nodiscard]] friend bool operator==(const NodoAlbero&, const NodoAlbero&) = default;
+};
+
+/// A tree; a parent stands in front of its children, and these in their order.
+struct Albero : Controllo {
+    Stato<std::vector<NodoAlbero>> Nodi;
+};
+
 /// A list of texts.
 struct Lista : Controllo {
     Stato<std::vector<std::string>> Voci;
@@ -128,9 +171,13 @@ struct RigaElenco {
     [[nodiscard]] friend bool operator==(const RigaElenco&, const RigaElenco&) = default;
 };
 
+/// What the heading of a column shows: how the list is sorted by it.
+enum class eOrdine : std::uint8_t { nessuno, crescente, decrescente };
+
 /// A report list: headed columns, lines of which any number may be selected.
 struct Elenco : Controllo {
     std::vector<std::string> aTestate;
+    Stato<std::vector<eOrdine>> Icone; ///< one for each heading, or none at all
     Stato<std::vector<RigaElenco>> Righe;
 
     /// Selects all lines, or none.
@@ -207,6 +254,7 @@ struct PulsanteStrumento {
     std::string sChiave;
     std::string sSuggerimento; ///< tool tip
     std::string sImmagine;     ///< key of its image
+    bool bTiene = false;       ///< a press holds it down, the next one releases it
     Stato<bool> Abilitato{true};
     Stato<bool> Premuto{false}; ///< of a button that holds
     std::vector<VoceMenu> aMenu;
@@ -225,6 +273,14 @@ struct BarraStrumenti : Controllo {
     [[nodiscard]] ORDAVEL_EXPORT VoceMenu& Voce(std::string_view sChiave);
 };
 
+/// The colours of a number's box; nothing where the view's own stand.
+struct ColoriCasella {
+    std::optional<Colore> nSfondo;
+    std::optional<Colore> nTesto;
+
+    [[nodiscard]] friend bool operator==(const ColoriCasella&, const ColoriCasella&) = default;
+};
+
 /// A yes or no for each number.
 using SegniNumeri = Tabella<std::uint8_t, 1, kNumeroMassimo>;
 
@@ -233,7 +289,8 @@ using SegniNumeri = Tabella<std::uint8_t, 1, kNumeroMassimo>;
 
 /// The selector of numbers: 1 to 90, each selected or not.
 struct SelettoreNumeri : Controllo {
-    Stato<SegniNumeri> Scelti;                        ///< 1 for a selected number
+    Stato<SegniNumeri> Scelti; ///< 1 for a selected number
+    Stato<Tabella<ColoriCasella, 1, kNumeroMassimo>> Colori;
     Stato<SegniNumeri> Abilitati{TuttiINumeri(true)}; ///< 1 for a number that the user may select
 
     /// Fails    9: nNumero outside 1..90
@@ -245,19 +302,6 @@ struct SelettoreNumeri : Controllo {
 
     /// Selects none.
     ORDAVEL_EXPORT void Svuota();
-};
-
-/// Which part of the list of conditions is on show. The view says how many whole columns fit, and follows.
-struct VistaCondizioni : Controllo {
-    Stato<std::int32_t> PrimaColonna{1};   ///< the leftmost one
-    Stato<std::int32_t> ColonneIntere{10}; ///< how many fit; the view's, 1 or more
-
-    /// Is a condition on show as a whole?
-    [[nodiscard]] ORDAVEL_EXPORT bool IsVisibile(std::int32_t nId) const noexcept;
-
-    /// Brings a condition into view: to the left edge from the left of it; from the right, as far as it and the
-    /// one behind it need.
-    ORDAVEL_EXPORT void PortaInVista(std::int32_t nId);
 };
 
 } // namespace ordavel

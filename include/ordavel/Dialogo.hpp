@@ -31,6 +31,7 @@ public:
     const std::string sTitolo;
     Stato<bool> Visibile{false};
     std::string sTag;
+    bool bSempreDavanti = false; ///< it stays on top of all other windows
 
 protected:
     /// What happens when it comes to the front.

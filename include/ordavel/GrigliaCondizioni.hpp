@@ -28,8 +28,9 @@ struct Condizione {
     [[nodiscard]] friend bool operator==(const Condizione&, const Condizione&) = default;
 };
 
-/// How much room a row takes on the screen: a link needs less. The looks give it in pixels.
-enum class eAltezza : std::uint8_t { normale, link };
+/// How much room a row takes on the screen: as much as all were given together, that of a condition that was
+/// inserted, or that of a link, which needs less. The looks give it in pixels.
+enum class eAltezza : std::uint8_t { comune, normale, link };
 
 /// The list of conditions.
 class ORDAVEL_EXPORT GrigliaCondizioni {
@@ -44,8 +45,11 @@ public:
     /// Is a row without a condition? Rows outside 1..2000 count as empty.
     [[nodiscard]] bool Vuota(std::int32_t nRiga) const noexcept;
 
-    /// Empties all rows, gives them the normal height and selects row 1.
+    /// Empties all rows, gives them the common height and selects row 1.
     void Svuota();
+
+    /// Gives all rows the common height.
+    void PareggiaAltezze();
 
     /// The height of a row. It belongs to the place: texts that move leave it behind.
     /// Fails    9: nRiga outside 0..2000

@@ -10,21 +10,31 @@
 //     std::vector<ordavel::Colonna> aColonne;
 //     sistema.GetColonneSviluppo(aColonne);
 //
-// Everything runs on one thread. A run lets pending events run at each refresh; the one command that may arrive
-// there is Stop(), and any other that starts a run, opens or saves is refused and does nothing.
+// Calling order: create; set the archives, DirSistemi, PercorsoTemp and PercorsoSalvaColonne; use; Deinit. A host
+// that keeps settings calls InizializzaProprieta when the component is first placed, LeggiProprieta when it is
+// loaded and ScriviProprieta when it is saved. PercorsoTemp must be set through PoniPercorsoTemp for the working
+// column file to have a name; reading it from the settings does not give it one.
+//
+// Everything runs on one thread. A development, a filter and a text export let pending events run; a host may then
+// read anything, call Stop() (or AnnullaExport() during an export) and set numbers and settings, which count from the
+// next run on. Whatever would change the conditions, start a second run, open, save, or touch the working file or its
+// folder is refused and does nothing.
 //
 // Failures of file work are shown as boxes and cleared. Operations without a handler of their own pass them on as
 // Errore; each says so.
 
 #pragma once
 
-#include "ordavel/Controlli.hpp"
+#include "ordavel/ArchivioProprieta.hpp"
+#include "ordavel/ControlliOrdavel.hpp"
 #include "ordavel/GrigliaCondizioni.hpp"
 #include "ordavel/Piattaforma.hpp"
 #include "ordavel/StatoSviluppo.hpp"
 #include "ordavel/esporta.hpp"
 
+#include <functional>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,26 +42,17 @@
 namespace ordavel {
 
 class DialogoCondizione;
+class F_NavigaSistema;
 class FileBinario;
 class OspiteDialoghi;
 
-/// The controls of the component, by their names.
-struct ControlliOrdavel {
-    Combo CmbTipoGioco;
-    Combo CmbClasse;
-    Combo CmbRid;
-    Combo CmbMotSviluppo;
-    Etichetta LabIntegrale;    ///< columns of the whole system, or of the file to be filtered
-    Etichetta LabSviluppate;   ///< columns examined
-    Etichetta LabCondizionate; ///< columns kept
-    Etichetta LabNumSel;       ///< count of picks
-    Etichetta LabGaranzia;     ///< the guarantee in words
-    Barra ProgBarXP1;          ///< 0 to 100
-    Controllo PanSviluppo;     ///< visible during a run
-    BarraStrumenti Toolbar2;   ///< keys, tips and menus
-    SelettoreNumeri SelnovoNumeri1;
-    Lista LbQuadroRec;       ///< the recovery board, a line "minimum,maximum,flag" per group from 1
-    VistaCondizioni GrdCond; ///< which conditions are on show
+/// What the component tells its host.
+struct EventiOrdavel {
+    std::function<void()>
+        CondizioniPressed; ///< the button "Condizioni", behind the repeat of the last editor
+    /// The button "StampaSk" while there are columns; takes the game's name, which the host may change.
+    std::function<void(std::string& sTipogioco)> StampaSk;
+    std::function<void(std::string_view sProprieta)> PropertyChanged; ///< a setting changed, by its name
 };
 
 class ORDAVEL_EXPORT Ordavel {
@@ -61,7 +62,46 @@ public:
     explicit Ordavel(Piattaforma& piattaforma);
     Ordavel(const Ordavel&) = delete;
     Ordavel& operator=(const Ordavel&) = delete;
-    ~Ordavel();
+    ~Ordavel(); ///< also does what a forgotten Deinit would have done
+
+    /// The instance that was published last and is not at its end; nullptr for none.
+    [[nodiscard]] static Ordavel* Pubblicato() noexcept;
+
+    /// The end of the component: stops the statistics, takes back the published reference, closes the navigation.
+    void Deinit();
+
+    /// What a host wants to hear.
+    [[nodiscard]] EventiOrdavel& Eventi() noexcept { return m_Eventi; }
+
+    // ---- settings that a host keeps ----
+
+    /// As the component is when it is first placed: class 5, 5 threads, internal engine, no folders.
+    void InizializzaProprieta();
+
+    /// Takes on the settings "Classe", "MotoreSviluppo", "NumeroThreadsSviluppo", "PercorsoSalvaColonne" and
+    /// "PercorsoTemp". One that is missing, is no number or lies outside its bounds is what InizializzaProprieta
+    /// makes it.
+    void LeggiProprieta(const ArchivioProprieta& archivio);
+
+    /// Writes the five settings: "Classe", "NumeroThreadsSviluppo", "PercorsoSalvaColonne", "MotoreSviluppo",
+    /// "PercorsoTemp".
+    void ScriviProprieta(ArchivioProprieta& archivio) const;
+
+    /// The draw archives, one a game: paths, taken as they come.
+    void PoniFileBdLotto(std::string sFile) { m_FileBdLotto = std::move(sFile); }
+    void PoniFileBd10Lotto(std::string sFile) { m_FileBd10Lotto = std::move(sFile); }
+    void PoniFileBd10Lotto5M(std::string sFile) { m_FileBd10Lotto5M = std::move(sFile); }
+    void PoniFileBdSE(std::string sFile) { m_FileBdSE = std::move(sFile); }
+    void PoniFileBdWF(std::string sFile) { m_FileBdWF = std::move(sFile); }
+    [[nodiscard]] const std::string& FileBdLotto() const noexcept { return m_FileBdLotto; }
+    [[nodiscard]] const std::string& FileBd10Lotto() const noexcept { return m_FileBd10Lotto; }
+    [[nodiscard]] const std::string& FileBd10Lotto5M() const noexcept { return m_FileBd10Lotto5M; }
+    [[nodiscard]] const std::string& FileBdSE() const noexcept { return m_FileBdSE; }
+    [[nodiscard]] const std::string& FileBdWF() const noexcept { return m_FileBdWF; }
+
+    /// Threads of an outside writer of counters; kept for the host. It sizes TxtPMin and TxtPMax.
+    void PoniNumeroThreadsSviluppo(std::int16_t nThread);
+    [[nodiscard]] std::int16_t NumeroThreadsSviluppo() const noexcept { return m_NumeroThreadsSviluppo; }
 
     // ---- folders and settings ----
 
@@ -106,10 +146,22 @@ public:
     /// The selected numbers in ascending order, 0 behind the last.
     [[nodiscard]] NumeriScelti GetNumeriSel() const;
 
+    /// Marks a number in a table of the host's own, which the component keeps and does not read.
+    /// Fails    9: nNum outside 1..90
+    void SetNum(std::int16_t nNum, bool bValore);
+
+    /// The colours of a number's box in the selector.
+    /// Fails    9: nNumero outside 1..90
+    void SetcoloreCasellaNumeri(std::int16_t nNumero, Colore nColor, Colore nForeColor);
+
+    /// Draws the strip of picks: 1 to 45 over 46 to 90, the selected ones in green.
+    void DisegnaNumeriProno();
+
     /// The conditions and the board themselves: what is written there counts.
     [[nodiscard]] GrigliaCondizioni& GetGridCond() noexcept { return m_GrdCond; }
     [[nodiscard]] Lista& GetLbQuadroRec() noexcept { return m_Controlli.LbQuadroRec; }
-    /// Selects a condition and brings it into view.
+    /// Selects a condition and brings it into view: from the left of it to the left edge; from the right so far
+    /// that the one behind it is seen, too.
     /// Fails    9: nId outside 0..2000
     void SetColonnaGrid(std::int32_t nId);
 
@@ -152,6 +204,7 @@ public:
     void InserisciRiga();
 
     /// Deletes the selected condition; with an empty row below the block selected, the last one goes. Changed.
+    /// Fails    91: the navigation is open, and what is left has a "LinkClose" without its "LinkOpen"
     void EliminaCondizione();
 
     /// Asks for a run of conditions and deletes it. The system does not count as changed.
@@ -175,6 +228,29 @@ public:
     /// Asks for a condition file and puts its rows behind the conditions. The system does not count as changed.
     void InsCondizioni();
 
+    // ---- the toolbar ----
+
+    /// A button was pressed, by its key, case does not count; an unknown one does nothing. Failures that no
+    /// operation has trapped are shown under "OrdavelSis.Toolbar2_ButtonClick".
+    void Toolbar2_ButtonClick(std::string_view sChiave);
+    /// A menu entry was chosen; the same, under "OrdavelSis.Toolbar2_ButtonMenuClick".
+    void Toolbar2_ButtonMenuClick(std::string_view sChiave);
+
+    /// The selector of numbers was closed. The system counts as modified.
+    void SelnovoNumeri1_Chiuso();
+    /// The user selected a condition in the grid; unlike SetColonnaGrid it does not scroll.
+    /// Fails    9: nId outside 0..2000
+    void GrdCond_EnterCell(std::int32_t nId);
+    /// Makes all conditions wider (+1) or narrower (-1) by a letter, from one letter to fifty.
+    void VariaLarghezzaColonne(std::int32_t nVerso);
+    /// Width of a condition, in pixels.
+    [[nodiscard]] std::int32_t LarghezzaColonna(std::int32_t nId) const;
+    /// The grid, the strip and the panels have a new size.
+    void Resize() { DisegnaNumeriProno(); }
+
+    /// An empty system, in place of the present one, after a question when that was modified.
+    void NuovoSistema();
+
     // ---- runs ----
 
     /// Develops the picks into the working column file.
@@ -191,6 +267,9 @@ public:
 
     /// The stop command: asks "Interrompere ?", and on yes the run ends at its next refresh.
     void Stop();
+
+    /// Takes over the counts of the external engine, which is not there yet: failure 53 for its library.
+    void AggiornaProgressSviluppoDll();
 
     /// What the last run compiled and counted.
     [[nodiscard]] const StatoSviluppo& UltimoSviluppo() const noexcept { return m_Stato; }
@@ -213,6 +292,48 @@ public:
     /// Asks for a name and copies the working file there.
     /// Gives    true when it was copied
     bool SalvaFileColonne();
+
+    /// Asks for a name and writes the columns of the working file there as text: a line of two-digit numbers each,
+    /// ended by CR and LF. The dialog F_Progress shows how far it is and can end it; what was written stays.
+    /// Gives    true when all columns were written; failures are shown under "OrdavelSisA.SalvaFileColonneTesto"
+    bool SalvaFileColonneTesto();
+    /// Ends a text export at its next look.
+    void AnnullaExport() noexcept { m_StopExport = true; }
+
+    /// Reduces a column file. There is no reduction yet: failure 438.
+    void RiduciColonne(const std::string& sFileCol, std::int32_t nPuntiRichiesti);
+    void StopRiduciColonne() noexcept {}
+
+    // ---- measures of a column ----
+    //
+    // Takes    nClasse   numbers of the column, 0..20
+    //          col       the column; its first nClasse numbers count
+    // Fails    9: nClasse above 20; and as each says
+
+    [[nodiscard]] std::int32_t CalcolaBaricentro(std::int16_t nClasse,
+                                                 const Colonna& col) const; ///< 11: class 0
+    [[nodiscard]] std::int32_t CalcolaPonte(std::int16_t nClasse, const Colonna& col) const;
+    [[nodiscard]] std::int32_t CalcolaAmpiezza(std::int16_t nClasse,
+                                               const Colonna& col) const; ///< 6: not ascending
+    [[nodiscard]] std::int32_t CalcolaDistanzaMinima(std::int16_t nClasse,
+                                                     const Colonna& col) const; ///< 6 as well
+    [[nodiscard]] std::int32_t CalcolaDistanzaMassima(std::int16_t nClasse,
+                                                      const Colonna& col) const; ///< 6 as well
+    [[nodiscard]] std::int32_t CalcolaConsecutivi(std::int16_t nClasse, const Colonna& col) const;
+    [[nodiscard]] std::int32_t CalcolaInterruzioniPD(std::int16_t nClasse, const Colonna& col) const;
+    [[nodiscard]] std::int32_t CalcolaVorticeDiretto(std::int16_t nClasse, const Colonna& col) const;
+    [[nodiscard]] std::int32_t CalcolaVorticeInverso(std::int16_t nClasse, const Colonna& col) const;
+    [[nodiscard]] std::int32_t CalcolaSimmetrieDirette(std::int16_t nClasse, const Colonna& col) const;
+    [[nodiscard]] std::int32_t CalcolaSimmetrieInverse(std::int16_t nClasse, const Colonna& col) const;
+    [[nodiscard]] std::int32_t CalcolaParalleliDiretti(std::int16_t nClasse, const Colonna& col) const;
+    [[nodiscard]] std::int32_t CalcolaParalleliInversi(std::int16_t nClasse, const Colonna& col) const;
+    /// Matches of a parity pattern of letters "P" and "D"; the first place is compared with an even number and the
+    /// last letter has no say. The second form also gives the longest chain.
+    /// Fails    9: more than 90 letters
+    [[nodiscard]] std::int32_t CalcolaSequenze(std::int16_t nClasse, const Colonna& col,
+                                               std::string_view sSeq) const;
+    [[nodiscard]] std::int32_t CalcolaPuntiSequenze(std::int16_t nClasse, const Colonna& col,
+                                                    std::string_view sSeq, std::int32_t& nRetConsec) const;
 
     // ---- the system file ----
 
@@ -239,8 +360,11 @@ public:
 private:
     class AvanzamentoPannello;
     class CorsaInVista;
+    class ExportInVista;
+    struct Comando;
 
-    bool PoniPercorso(const std::string& sPercorso, std::string& sCampo);
+    bool CreaPercorsoOAvvisa(const std::string& sPercorso);
+    bool PoniPercorso(const std::string& sPercorso, std::string& sCampo, std::string_view sNome);
 
     // Changes of the controls.
     void LayOutGrid();
@@ -259,6 +383,33 @@ private:
     void MostraORiempi(DialogoCondizione& dialogo, std::int32_t nRiga, std::string_view sParam);
     void SegnaModificato() noexcept;
 
+    // Settings.
+    void Pubblica() noexcept;
+    void NotaProprieta(std::string_view sNome);
+
+    // Grid and strip.
+    void MisuraLarghezze();
+    void SommaContatori();
+    void PreparaContatori();
+
+    // Commands.
+    void EseguiComando(std::string_view sOrigine, std::span<const Comando> aComandi,
+                       std::string_view sChiave);
+    [[nodiscard]] bool ConfermaPerditaModifiche();
+    void PremiOpen();
+    void PremiSave();
+    void PremiCondizioni();
+    void PremiSelNumeri();
+    void PremiFiltra();
+    void PremiVisualizza();
+    void PremiNaviga();
+    void PremiStampa();
+    void InserisciDaBarra(TipoCondizione tipo);
+    void ScegliDaMenu(TipoCondizione tipo);
+    void SalvaConFlag(std::string sFile);
+    void ApriFiltroFileColonne();
+    [[noreturn]] void NonAncora(std::string_view sNome) const;
+
     // Runs.
     void MostraFineSviluppo(float nInizio);
     void CaricaEmulatore();
@@ -271,6 +422,7 @@ private:
     void ApriFileColonne(const std::string& sFile);
     void ApriColonne(FileBinario& sistema);
     void AppendiColonneAFileSistema(FileBinario& sistema);
+    [[nodiscard]] std::string NomeSuggerito() const;
 
     // System file.
     void ScriviSistema(const std::string& sFile);
@@ -283,19 +435,35 @@ private:
     ControlliOrdavel m_Controlli;
     GrigliaCondizioni m_GrdCond;
     StatoSviluppo m_Stato;
+    EventiOrdavel m_Eventi;
     std::unique_ptr<Statistica> m_Statistica;
-    std::unique_ptr<OspiteDialoghi> m_Ospite; ///< the component as its dialogs see it
+    std::unique_ptr<OspiteDialoghi> m_Ospite;         ///< the component as its dialogs see it
+    std::unique_ptr<F_NavigaSistema> m_NavigaSistema; ///< loaded at its first use
 
     std::string m_FileSistema;
     std::string m_FileColonne;
     std::string m_PercorsoTemp;
     std::string m_PercorsoSalvaColonne;
     std::string m_DirSistemi;
+    std::string m_FileBdLotto;
+    std::string m_FileBd10Lotto;
+    std::string m_FileBd10Lotto5M;
+    std::string m_FileBdSE;
+    std::string m_FileBdWF;
     eMotoreSviluppo m_MotoreSviluppo = eMotoreSviluppo::interno;
+    TipoCondizione m_UltimaCondizione = TipoCondizione::nessuno; ///< kind last chosen from the menu
+    std::int16_t m_Classe = 5;
+    std::int16_t m_NumeroThreadsSviluppo = 0;
+    std::vector<std::int32_t> m_SviluppatePerThread; ///< thread 1 at 0
+    std::vector<std::int32_t> m_CondizionatePerThread;
+    std::int32_t m_LarghezzaCorta = 0;
+    std::int32_t m_LarghezzaLunga = 0;
+    SegniNumeri m_TabellaNumeri;
     double m_ColonneDaFiltrare = 0; ///< columns of the run, the base of an external run's percentage
     bool m_Modificato = false;
     bool m_ColonneValide = false;
-    bool m_bInCorso = false;               ///< a run is on its way
+    bool m_StopExport = false;
+    bool m_bInCorso = false;               ///< a run or an export is on its way
     bool m_bFiltroPrimaDellaCorsa = false; ///< whether "FiltraSvilPrec" was enabled before the run
 };
 

@@ -73,6 +73,19 @@ public:
     /// its tag as it is.
     virtual void MostraModale(Dialogo& dialogo) = 0;
 
+    /// Shows a dialog without waiting. It stays until it hides itself or is no more.
+    virtual void MostraAccanto(Dialogo& dialogo) { dialogo.Mostra(); }
+
+    /// A short sound.
+    virtual void Beep() {}
+
+    /// Width and height of a text in the component's font, in pixels.
+    [[nodiscard]] virtual double LarghezzaTesto(std::string_view sTesto) const
+    {
+        return 8.0 * static_cast<double>(sTesto.size());
+    }
+    [[nodiscard]] virtual double AltezzaTesto(std::string_view /*sTesto*/) const { return 16.0; }
+
     /// The statistics that a component asks for; made once, when it starts. Without any the user is told so.
     [[nodiscard]] virtual std::unique_ptr<Statistica> CreaStatistica();
 

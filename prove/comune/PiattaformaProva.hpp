@@ -158,6 +158,17 @@ public:
         dialogo.Visibile.Poni(false);
     }
 
+    void MostraAccanto(Dialogo& dialogo) override
+    {
+        aMostrati.push_back(dialogo.sNome);
+        dialogo.Mostra();
+    }
+
+    void Beep() override { ++nBeep; }
+
+    [[nodiscard]] double LarghezzaTesto(std::string_view sTesto) const override { return larghezza(sTesto); }
+    [[nodiscard]] double AltezzaTesto(std::string_view sTesto) const override { return altezza(sTesto); }
+
     /// What was asked of the statistics of the component, and its starts and stops.
     struct RegistroStatistica {
         std::vector<std::pair<std::int32_t, std::int16_t>> aMostrate;
@@ -192,9 +203,17 @@ public:
 
     std::function<void()> finestra;     ///< what happens while a box is shown
     std::function<void()> eventi;       ///< what happens whenever events are let run
+    int nBeep = 0;                      ///< sounds
     int nEventi = 0;                    ///< how often they were
     std::vector<std::string> aMostrati; ///< the names of all dialogs that were shown
     RegistroStatistica statistica;
+    /// Sizes of a text: at first those of any desktop.
+    std::function<double(std::string_view)> larghezza = [this](std::string_view sTesto) {
+        return Piattaforma::LarghezzaTesto(sTesto);
+    };
+    std::function<double(std::string_view)> altezza = [this](std::string_view sTesto) {
+        return Piattaforma::AltezzaTesto(sTesto);
+    };
 
 private:
     std::string Chiedi(const DialogoFile& dialogo)

@@ -229,12 +229,12 @@ TEST(ModRighe, LeAltezzeRestanoAlLoroPosto)
     }
     InserisciRiga(griglia);
     EXPECT_EQ(griglia.Altezza(2), eAltezza::link);
-    EXPECT_EQ(griglia.Altezza(5), eAltezza::normale);
+    EXPECT_EQ(griglia.Altezza(5), eAltezza::comune);
     EXPECT_EQ(EliminaRangeCondizioni(griglia, 2, 2), 4);
     EXPECT_EQ(griglia.Altezza(2), eAltezza::link);
     EliminaCondizione(griglia);
     EXPECT_EQ(griglia.Altezza(2), eAltezza::normale);
-    EXPECT_EQ(griglia.Altezza(3), eAltezza::normale);
+    EXPECT_EQ(griglia.Altezza(3), eAltezza::comune);
     EXPECT_EQ(griglia.Altezza(4), eAltezza::link) << "the link moved up and left its height behind";
 }
 
@@ -315,7 +315,7 @@ TEST(ModRighe, DuemilaInserimentiRovescianoLOrdineEDuemilaEliminazioniVuotano)
 /// The rows as a plain list, from 0 on, and each operation as its definition says it of a list.
 struct Modello {
     std::vector<Condizione> aRighe = std::vector<Condizione>(2001);
-    std::vector<eAltezza> aAltezze = std::vector<eAltezza>(2001, eAltezza::normale);
+    std::vector<eAltezza> aAltezze = std::vector<eAltezza>(2001, eAltezza::comune);
     std::ptrdiff_t nCorrente = 1;
 
     void Inserisci()

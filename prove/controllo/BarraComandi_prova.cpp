@@ -10,6 +10,9 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <numeric>
+#include <ostream>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -19,6 +22,19 @@ namespace {
 using prove::NumeroErrore;
 
 using RigaAttesa = std::array<std::string_view, 3>;
+
+/// An entry of the menu "Condizioni"; its kind is 0 where it inserts none.
+struct VoceAttesa {
+    std::string_view sTesto;
+    std::string_view sChiave;
+    int nTipo;
+
+    [[nodiscard]] friend bool operator==(const VoceAttesa&, const VoceAttesa&) = default;
+    friend std::ostream& operator<<(std::ostream& uscita, const VoceAttesa& voce)
+    {
+        return uscita << voce.sTesto << ", " << voce.sChiave << ", " << voce.nTipo;
+    }
+};
 
 // clang-format off
 constexpr auto kPulsanti = std::to_array<RigaAttesa>({
@@ -60,6 +76,46 @@ constexpr auto kVoci = std::to_array<RigaAttesa>({
     {"Delete",         "Rimuovi condizioni",     "DelCondizioni"},
     {"SviluppaCond",   "Filtra file colonne",    "FiltraFileCol"},
 });
+
+constexpr auto kVociCondizioni = std::to_array<VoceAttesa>({
+//   caption                                      key                           kind
+    {"Punti su colonna",                          "PuntiSuColonna",             3},
+    {"Punti su colonna (importa colonne da txt)", "PuntiSuColonnaTxt",          0},
+    {"Pari - dispari",                            "PuntisuPariDispari",         4},
+    {"Peso",                                      "PuntisuPeso",                5},
+    {"Resto",                                     "PuntiSuResto",               6},
+    {"Ampiezza",                                  "PuntiSuAmpiezza",            7},
+    {"Distanza minima",                           "PuntiSuDistanzaMinima",      13},
+    {"Distanza massima",                          "PuntiSuDistanzaMassima",     14},
+    {"Vortice",                                   "PuntiSuVortice",             8},
+    {"SimmetriePD",                               "PuntiSuSimmetrie",           9},
+    {"ParalleliPD",                               "PuntiSuParalleli",           18},
+    {"Consecutivi",                               "PuntiSuConsecutivi",         10},
+    {"Interruzioni",                              "PuntiSuInterruzioni",        20},
+    {"ConsecutiviPD",                             "PuntiSuConsecutiviPD",       21},
+    {"InterruzioniPD",                            "PuntiSuInterruzioniPD",      11},
+    {"Baricentro",                                "PuntiSuBaricentro",          12},
+    {"Posizioni",                                 "PuntiSuPosizioni",           15},
+    {"Ponte",                                     "PuntiSuPonte",               16},
+    {"Sequenze",                                  "PuntiSuSequenze",            17},
+    {"Gruppi di consecutivi",                     "PuntiSuGruppiDiConsecutivi", 19},
+    {"Cadenze (q max uguali)",                    "PuntiSuCadenze",             22},
+    {"Cadenze (q specifica)",                     "PuntiSuCadenzeSpec",         36},
+    {"Decine (q max uguali)",                     "PuntiSuDecine",              23},
+    {"Decine  (q specifica)",                     "PuntiSuDecineSpec",          37},
+    {"Figure (q max uguali)",                     "PuntiSuFigure",              24},
+    {"Figure  (q specifica)",                     "PuntiSuFigureSpec",          35},
+    {"Formule",                                   "PuntiSuFormule",             25},
+    {"Emulatore",                                 "PuntiSuEmulatore",           26},
+    {"Simmetrie Numeriche",                       "SimmetrieNumeriche",         27},
+    {"Paralleli Numerici",                        "ParalleliNumerici",          28},
+    {"Fulcro",                                    "Fulcro",                     29},
+    {"Somma decine",                              "SommaDecine",                31},
+    {"Somma cadenze",                             "SommaCadenze",               30},
+    {"Somma figure",                              "SommaFigure",                32},
+    {"Somma numeretti",                           "SommaNumeretti",             33},
+    {"Somma complessiva (dec-cad-num-fig)",       "SommaComplessiva",           34},
+});
 // clang-format on
 
 BarraStrumenti Barra()
@@ -93,10 +149,48 @@ TEST(BarraComandi, LeVociStannoNeiLoroMenu)
     const auto aPulsanti = PulsantiOrdavel();
     for (const PulsanteStrumento& pulsante : aPulsanti) {
         for (const VoceMenu& voce : pulsante.aMenu) {
-            aVoci.push_back({pulsante.sChiave, voce.sTesto, voce.sChiave});
+            if (pulsante.sChiave != "Condizioni") {
+                aVoci.push_back({pulsante.sChiave, voce.sTesto, voce.sChiave});
+            }
         }
     }
     EXPECT_THAT(aVoci, testing::ElementsAreArray(kVoci));
+}
+
+TEST(BarraComandi, IlMenuDelleCondizioniHaUnaVocePerTipo)
+{
+    BarraStrumenti barra = Barra();
+    std::vector<VoceAttesa> aVoci;
+    for (const VoceMenu& voce : barra.Pulsante("Condizioni").aMenu) {
+        aVoci.push_back({voce.sTesto, voce.sChiave, static_cast<int>(TipoDiVoce(voce.sChiave))});
+    }
+    EXPECT_THAT(aVoci, testing::ElementsAreArray(kVociCondizioni));
+}
+
+TEST(BarraComandi, OgniTipoMenoILinkHaUnaSolaVoce)
+{
+    std::multiset<int> aTipi;
+    for (const VoceAttesa& voce : kVociCondizioni) {
+        aTipi.insert(static_cast<int>(TipoDiVoce(voce.sChiave)));
+    }
+    std::vector<int> aAttesi(kTipiCondizione - 1);
+    std::iota(aAttesi.begin(), aAttesi.end(), 2);
+    aAttesi.front() = 0; // the columns out of a text
+    EXPECT_THAT(aTipi, testing::ElementsAreArray(aAttesi));
+}
+
+TEST(BarraComandi, IlTipoDiUnaVoceNonBadaAlleMaiuscole)
+{
+    for (const VoceAttesa& voce : kVociCondizioni) {
+        EXPECT_EQ(static_cast<int>(TipoDiVoce(Maiuscole(voce.sChiave))), voce.nTipo);
+    }
+}
+
+TEST(BarraComandi, UnAltraChiaveNonHaTipo)
+{
+    for (const std::string_view sChiave : {"", "Peso", "LinkOpen", "Salva", "PuntiSu", "PuntisuPeso "}) {
+        EXPECT_EQ(TipoDiVoce(sChiave), TipoCondizione::nessuno) << sChiave;
+    }
 }
 
 TEST(BarraComandi, OgniChiaveSiTrovaScrittaComeSiVuole)
@@ -107,6 +201,9 @@ TEST(BarraComandi, OgniChiaveSiTrovaScrittaComeSiVuole)
     }
     for (const RigaAttesa& riga : kVoci) {
         EXPECT_EQ(barra.Voce(Maiuscole(riga[2])).sTesto, riga[1]);
+    }
+    for (const VoceAttesa& voce : kVociCondizioni) {
+        EXPECT_EQ(barra.Voce(Maiuscole(voce.sChiave)).sTesto, voce.sTesto);
     }
 }
 

@@ -223,7 +223,7 @@ TEST_F(OrdavelApri, LaGrigliaSiSvuotaPrima)
     EXPECT_TRUE(ApriByte(sEsempio));
     EXPECT_TRUE(sistema.GetGridCond().Vuota(2));
     EXPECT_EQ(sistema.GetGridCond().Altezza(1), eAltezza::normale);
-    EXPECT_EQ(sistema.GetGridCond().Altezza(5), eAltezza::normale);
+    EXPECT_EQ(sistema.GetGridCond().Altezza(5), eAltezza::comune);
     EXPECT_EQ(sistema.GetGridCond().Corrente(), 1);
 }
 

@@ -129,7 +129,8 @@ TEST_F(OrdavelCondizioni, ITipiSenzaTestoNonInserisconoNulla)
 
 TEST_F(OrdavelCondizioni, ITipiNumericiFallisconoENonInserisconoNulla)
 {
-    const StatoLista prima = Stato();
+    StatoLista prima = Stato();
+    prima.aAltezze[1] = eAltezza::normale;
     const Messaggio riquadro = Fallimento(kSetPunti, Errore(eErrore::membro, "Combo1"));
     for (const TipoCondizione tipo : {simmetrieNum, paralleliNum}) {
         sistema.InsCondizione(tipo, "Dirette\r\n1");
@@ -140,7 +141,8 @@ TEST_F(OrdavelCondizioni, ITipiNumericiFallisconoENonInserisconoNulla)
 
 TEST_F(OrdavelCondizioni, UnTestoConUnValoreSenzaCasellaFallisceENonInserisceNulla)
 {
-    const StatoLista prima = Stato();
+    StatoLista prima = Stato();
+    prima.aAltezze[1] = eAltezza::normale;
     sistema.InsCondizione(consecutivi, "1,7");
     EXPECT_THAT(piattaforma.Messaggi(), ElementsAre(Fallimento(kSetPunti, Errore(eErrore::indice))));
     sistema.InsCondizione(fulcro, "Pari");
@@ -269,7 +271,8 @@ TEST_F(OrdavelCondizioni, LaFormulaDeveFareLaClasse)
 
 TEST_F(OrdavelCondizioni, UnNumeroTroppoGrandeNellEmulatoreEUnFallimentoDellInserimento)
 {
-    const StatoLista prima = Stato();
+    StatoLista prima = Stato();
+    prima.aAltezze[1] = eAltezza::normale;
     Conferma<F_PuntiSuEmulatore>([](F_PuntiSuEmulatore& dialogo) {
         dialogo.Text2.Testo.Poni("500");
         dialogo.MSFlexGrid1.Scrivi({1, 1}, "99999999999");

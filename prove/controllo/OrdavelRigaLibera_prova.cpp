@@ -84,6 +84,7 @@ TEST_F(OrdavelRigaLibera, ConDuemilaCondizioniSiScriveSulleIntestazioni)
     StatoLista atteso = Stato();
     InserisciNuova();
     atteso.aRighe[0] = kNuova;
+    atteso.aAltezze[0] = eAltezza::normale;
     atteso.nCorrente = 0;
     atteso.nPrimaInVista = 1;
     atteso.bModificato = true;
@@ -130,6 +131,7 @@ TEST_F(OrdavelRigaLibera, LaVistaScorreAncheSePoiSiAnnulla)
     StatoLista atteso = Stato();
     AnnullaNuova();
     atteso.nPrimaInVista = 31;
+    atteso.aAltezze[31] = eAltezza::normale;
     EXPECT_EQ(Stato(), atteso);
 }
 

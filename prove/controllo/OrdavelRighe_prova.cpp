@@ -50,7 +50,7 @@ TEST_F(OrdavelRighe, UnaRigaSiApreDovEScelta)
     EXPECT_THAT(Punti(6), ElementsAre("1", "", "2", "3", "4", ""));
     EXPECT_EQ(Griglia().Riga(2), Condizione{});
     EXPECT_EQ(Griglia().Altezza(2), eAltezza::link) << "heights belong to their places";
-    EXPECT_EQ(Griglia().Altezza(3), eAltezza::normale);
+    EXPECT_EQ(Griglia().Altezza(3), eAltezza::comune);
     EXPECT_EQ(Griglia().Corrente(), 2);
     ExpectModificato(false);
 }

@@ -346,11 +346,11 @@ TEST_F(FApriCondizioni, DueEmulatoriEUnGruppoSconosciutoPassano)
     EXPECT_EQ(Piene(m_Ospite.griglia), (Condizioni{emulatore, emulatore, kResto}));
 }
 
-TEST_F(FApriCondizioni, UnLinkSenzaFineHaLAltezzaNormale)
+TEST_F(FApriCondizioni, UnLinkSenzaFineHaLAltezzaDelleAltre)
 {
     Inserisci({{"LinkOpen", "L", "", "", ""}});
     EXPECT_EQ(m_Ospite.griglia.Riga(1).sCondizione, "LinkOpen");
-    EXPECT_EQ(m_Ospite.griglia.Altezza(1), eAltezza::normale);
+    EXPECT_EQ(m_Ospite.griglia.Altezza(1), eAltezza::comune);
 }
 
 TEST_F(FApriCondizioni, ChiudiNonInserisce)

@@ -29,9 +29,20 @@ public:
     [[nodiscard]] const std::string& DirSistemi() const override { return sDirSistemi; }
     [[nodiscard]] const std::string& PercorsoSalvaColonne() const override { return sPercorsoSalvaColonne; }
     [[nodiscard]] Statistica& StatisticaSistema() override { return m_Statistica; }
+    [[nodiscard]] std::string GetColonnaSviluppo(std::int32_t nId) override
+    {
+        ++nColonneLette;
+        const auto nPosto = static_cast<std::size_t>(nId) - 1;
+        return nPosto < aColonne.size() ? aColonne[nPosto] : std::string();
+    }
+    void SetColonnaGrid(std::int32_t nId) override { griglia.PoniCorrente(nId); }
+    void AnnullaExport() override { bExportAnnullato = true; }
 
     PiattaformaProva desktop;
     GrigliaCondizioni griglia;
+    std::vector<std::string> aColonne; ///< of the working file, as text
+    int nColonneLette = 0;
+    bool bExportAnnullato = false;
     std::string sDirSistemi;
     std::string sPercorsoSalvaColonne;
     std::vector<std::int16_t> aScelti;

@@ -1,6 +1,7 @@
 // ControlliElenchi_prova.cpp - the controls of the special dialogs: filtered boxes, lists, sheet, view of conditions.
 
 #include "ordavel/Controlli.hpp"
+#include "ordavel/VistaCondizioni.hpp"
 
 #include "comune/Fallimenti.hpp"
 

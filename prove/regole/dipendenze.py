@@ -24,9 +24,12 @@ CASA = {
     "records.hpp": "core",
     "StatoSviluppo.hpp": "core",
     "GrigliaCondizioni.hpp": "condizioni",
+    "ArchivioProprieta.hpp": "piattaforma",
     "Controlli.hpp": "piattaforma",
     "Dialogo.hpp": "piattaforma",
     "Piattaforma.hpp": "piattaforma",
+    "VistaCondizioni.hpp": "piattaforma",
+    "ControlliOrdavel.hpp": "controllo",
     "Ordavel.hpp": "controllo",
 }
 

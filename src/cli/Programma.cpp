@@ -2,6 +2,7 @@
 
 #include "cli/Programma.hpp"
 
+#include "cli/Colonne.hpp"
 #include "cli/Comandi.hpp"
 #include "cli/Modifiche.hpp"
 #include "cli/PiattaformaCli.hpp"
@@ -46,6 +47,8 @@ struct Riga {
     OpzioniAggiungi aggiungi;
     OpzioniRighe righe;
     OpzioniQuadro quadro;
+    OpzioniVedi vedi;
+    std::string sUscita;
     std::string sTesto;
     std::string sSistema;
     std::int16_t nClasse = 0;
@@ -172,6 +175,23 @@ void AggiungiQuadro(CLI::App& programma, Riga& riga)
     comando->callback([&riga] { riga.azione = [&riga] { return ImpostaQuadro(riga.quadro); }; });
 }
 
+void AggiungiEsporta(CLI::App& programma, Riga& riga)
+{
+    CLI::App* comando = NuovoComando(programma, "esporta", "Scrive le colonne di un file come testo");
+    comando->add_option("COLONNE", riga.vedi.sFile, "Il file .col")->required();
+    comando->add_option("TESTO", riga.sUscita, "Il file .txt da scrivere")->required();
+    comando->callback([&riga] { riga.azione = [&riga] { return Esporta(riga.vedi.sFile, riga.sUscita); }; });
+}
+
+void AggiungiVedi(CLI::App& programma, Riga& riga)
+{
+    CLI::App* comando = NuovoComando(programma, "vedi", "Mostra alcune colonne di un file");
+    comando->add_option("COLONNE", riga.vedi.sFile, "Il file .col")->required();
+    comando->add_option("--da", riga.vedi.nDa, "La prima colonna, da 1");
+    comando->add_option("--quante", riga.vedi.nQuante, "Quante colonne");
+    comando->callback([&riga] { riga.azione = [&riga] { return Vedi(riga.vedi); }; });
+}
+
 void AggiungiComandi(CLI::App& programma, Riga& riga)
 {
     TraduciAiuto(programma);
@@ -188,6 +208,8 @@ void AggiungiComandi(CLI::App& programma, Riga& riga)
     AggiungiTogli(programma, riga);
     AggiungiQuadro(programma, riga);
     AggiungiSalvaCondizioni(programma, riga);
+    AggiungiEsporta(programma, riga);
+    AggiungiVedi(programma, riga);
 }
 
 /// Steps of one letter (put in, taken out, changed) from one word to another.
@@ -305,6 +327,13 @@ void ControllaTratto(const Riga& riga, bool bServe)
     }
 }
 
+void ControllaVedi(const Riga& riga)
+{
+    if (riga.vedi.nDa < 1 || riga.vedi.nQuante < 1) {
+        throw UsoErrato("le colonne si contano da 1");
+    }
+}
+
 void ControllaQuadro(const Riga& riga)
 {
     const OpzioniQuadro& opzioni = riga.quadro;
@@ -364,7 +393,8 @@ void Controlla(const CLI::App& programma, const Riga& riga)
                                                                                 {"aggiungi", [&] { ControllaAggiungi(riga); }},
                                                                                 {"togli", [&] { ControllaTratto(riga, true); }},
                                                                                 {"salva-condizioni", [&] { ControllaTratto(riga, false); }},
-                                                                                {"quadro", [&] { ControllaQuadro(riga); }}};
+                                                                                {"quadro", [&] { ControllaQuadro(riga); }},
+                                                                                {"vedi", [&] { ControllaVedi(riga); }}};
     for (const auto& [sComando, controlla] : aControlli) {
         if (programma.got_subcommand(sComando)) {
             controlla();

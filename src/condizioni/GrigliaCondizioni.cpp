@@ -47,8 +47,13 @@ void GrigliaCondizioni::Svuota()
 {
     m_aRighe.assign(static_cast<std::size_t>(kCondizioniMassime) + 1, Condizione{});
     m_aRighe.front() = Intestazioni();
-    m_aAltezze.assign(m_aRighe.size(), eAltezza::normale);
+    PareggiaAltezze();
     m_nCorrente = 1;
+}
+
+void GrigliaCondizioni::PareggiaAltezze()
+{
+    m_aAltezze.assign(m_aRighe.size(), eAltezza::comune);
 }
 
 eAltezza GrigliaCondizioni::Altezza(std::int32_t nRiga) const

@@ -2,6 +2,8 @@
 
 #include "controllo/BarraComandi.hpp"
 
+#include "core/ModTesti.hpp"
+
 #include <algorithm>
 #include <array>
 #include <string_view>
@@ -23,6 +25,14 @@ struct RigaVoce {
     std::string_view sChiave;
     bool bAbilitata;
 };
+
+struct RigaVoceCondizione {
+    std::string_view sTesto;
+    std::string_view sChiave;
+    TipoCondizione tipo;
+};
+
+using enum TipoCondizione;
 
 // clang-format off
 constexpr std::array kPulsanti = std::to_array<RigaPulsante>({
@@ -53,6 +63,47 @@ constexpr std::array kPulsanti = std::to_array<RigaPulsante>({
     {"StampaSk",           "Stampa schedine",                  "StampaSk",             true},
 });
 
+/// A kind of condition, or what the menu "Condizioni" offers beside the kinds.
+constexpr std::array kVociCondizioni = std::to_array<RigaVoceCondizione>({
+//   caption                                      key                          kind
+    {"Punti su colonna",                          "PuntiSuColonna",            puntiColonna},
+    {"Punti su colonna (importa colonne da txt)", "PuntiSuColonnaTxt",         nessuno},
+    {"Pari - dispari",                            "PuntisuPariDispari",        pariDispari},
+    {"Peso",                                      "PuntisuPeso",               peso},
+    {"Resto",                                     "PuntiSuResto",              resto},
+    {"Ampiezza",                                  "PuntiSuAmpiezza",           ampiezza},
+    {"Distanza minima",                           "PuntiSuDistanzaMinima",     distanzaMinima},
+    {"Distanza massima",                          "PuntiSuDistanzaMassima",    distanzaMassima},
+    {"Vortice",                                   "PuntiSuVortice",            vortice},
+    {"SimmetriePD",                               "PuntiSuSimmetrie",          simmetrie},
+    {"ParalleliPD",                               "PuntiSuParalleli",          paralleli},
+    {"Consecutivi",                               "PuntiSuConsecutivi",        consecutivi},
+    {"Interruzioni",                              "PuntiSuInterruzioni",       interruzioni},
+    {"ConsecutiviPD",                             "PuntiSuConsecutiviPD",      consecutiviPD},
+    {"InterruzioniPD",                            "PuntiSuInterruzioniPD",     interruzioniPD},
+    {"Baricentro",                                "PuntiSuBaricentro",         baricentro},
+    {"Posizioni",                                 "PuntiSuPosizioni",          posizioni},
+    {"Ponte",                                     "PuntiSuPonte",              ponte},
+    {"Sequenze",                                  "PuntiSuSequenze",           sequenze},
+    {"Gruppi di consecutivi",                     "PuntiSuGruppiDiConsecutivi", gruppiDiConsecutivi},
+    {"Cadenze (q max uguali)",                    "PuntiSuCadenze",            cadenze},
+    {"Cadenze (q specifica)",                     "PuntiSuCadenzeSpec",        cadenzeSpecifiche},
+    {"Decine (q max uguali)",                     "PuntiSuDecine",             decine},
+    {"Decine  (q specifica)",                     "PuntiSuDecineSpec",         decineSpecifiche},
+    {"Figure (q max uguali)",                     "PuntiSuFigure",             figure},
+    {"Figure  (q specifica)",                     "PuntiSuFigureSpec",         figureSpecifiche},
+    {"Formule",                                   "PuntiSuFormule",            formule},
+    {"Emulatore",                                 "PuntiSuEmulatore",          emulatore},
+    {"Simmetrie Numeriche",                       "SimmetrieNumeriche",        simmetrieNum},
+    {"Paralleli Numerici",                        "ParalleliNumerici",         paralleliNum},
+    {"Fulcro",                                    "Fulcro",                    fulcro},
+    {"Somma decine",                              "SommaDecine",               sommaDecine},
+    {"Somma cadenze",                             "SommaCadenze",              sommaCadenze},
+    {"Somma figure",                              "SommaFigure",               sommaFigure},
+    {"Somma numeretti",                           "SommaNumeretti",            sommaNumeretti},
+    {"Somma complessiva (dec-cad-num-fig)",       "SommaComplessiva",          sommaComplessiva},
+});
+
 constexpr std::array kVoci = std::to_array<RigaVoce>({
 //   button            caption                   key                  enabled
     {"Save",           "Salva",                  "Salva",             false},
@@ -71,6 +122,7 @@ PulsanteStrumento Pulsante(const RigaPulsante& riga)
     PulsanteStrumento pulsante{.sChiave = std::string(riga.sChiave),
                                .sSuggerimento = std::string(riga.sSuggerimento),
                                .sImmagine = std::string(riga.sImmagine),
+                               .bTiene = riga.sChiave == "SelNumeri",
                                .Abilitato = Stato<bool>(riga.bAbilitato),
                                .Premuto = Stato<bool>(false),
                                .aMenu = {}};
@@ -79,6 +131,13 @@ PulsanteStrumento Pulsante(const RigaPulsante& riga)
             pulsante.aMenu.push_back({.sTesto = std::string(voce.sTesto),
                                       .sChiave = std::string(voce.sChiave),
                                       .Abilitato = Stato<bool>(voce.bAbilitata)});
+        }
+    }
+    if (riga.sChiave == "Condizioni") {
+        for (const RigaVoceCondizione& voce : kVociCondizioni) {
+            pulsante.aMenu.push_back({.sTesto = std::string(voce.sTesto),
+                                      .sChiave = std::string(voce.sChiave),
+                                      .Abilitato = Stato<bool>(true)});
         }
     }
     return pulsante;
@@ -91,6 +150,14 @@ std::vector<PulsanteStrumento> PulsantiOrdavel()
     std::vector<PulsanteStrumento> aPulsanti;
     std::transform(kPulsanti.begin(), kPulsanti.end(), std::back_inserter(aPulsanti), Pulsante);
     return aPulsanti;
+}
+
+TipoCondizione TipoDiVoce(std::string_view sChiave) noexcept
+{
+    const auto* voce =
+        std::find_if(kVociCondizioni.begin(), kVociCondizioni.end(),
+                     [sChiave](const RigaVoceCondizione& v) { return UgualiSenzaCaso(v.sChiave, sChiave); });
+    return voce == kVociCondizioni.end() ? nessuno : voce->tipo;
 }
 
 } // namespace ordavel

@@ -2,6 +2,7 @@
 
 #include "ordavel/Ordavel.hpp"
 
+#include "analisi/F_NavigaSistema.hpp"
 #include "condizioni/ModCompila.hpp"
 #include "controllo/BarraComandi.hpp"
 #include "controllo/OspiteOrdavel.hpp"
@@ -16,6 +17,8 @@ namespace ordavel {
 
 namespace {
 
+constexpr std::int16_t kThreadPreset = 5;
+
 void Riempi(Combo& combo, std::span<const std::string_view> aVoci)
 {
     for (const std::string_view sVoce : aVoci) {
@@ -28,7 +31,7 @@ void Riempi(Combo& combo, std::span<const std::string_view> aVoci)
 Ordavel::Ordavel(Piattaforma& piattaforma)
     : m_Piattaforma(piattaforma),
       m_Statistica(piattaforma.CreaStatistica()),
-      m_Ospite(std::make_unique<OspiteOrdavel>(*this, piattaforma, *m_Statistica))
+      m_Ospite(std::make_unique<OspiteOrdavel>(*this, piattaforma, m_Statistica))
 {
     m_Controlli.Toolbar2.aPulsanti = PulsantiOrdavel();
     m_Controlli.PanSviluppo.Visibile.Poni(false);
@@ -41,45 +44,68 @@ Ordavel::Ordavel(Piattaforma& piattaforma)
     m_Controlli.CmbRid.Indice.AlCambio([this] { CambioRiduzione(); });
     m_Controlli.CmbMotSviluppo.Indice.AlCambio([this] { CambioMotore(); });
     m_Controlli.SelnovoNumeri1.Scelti.AlCambio([this] { CambioNumeri(); });
+    m_Controlli.PanPerc.Visibile.Poni(false);
+    m_Controlli.SelnovoNumeri1.Visibile.Poni(false);
+    MisuraLarghezze();
     LayOutGrid();
     m_Controlli.CmbTipoGioco.Indice.Poni(0);
     m_Controlli.CmbRid.Indice.Poni(0);
     SelezionaComboMotSviluppo();
-    m_Statistica->Avvia();
+    PoniNumeroThreadsSviluppo(kThreadPreset);
+    Pubblica();
+    try {
+        m_Statistica->Avvia();
+    } catch (...) {
+        m_Statistica.reset();
+        Deinit();
+        throw;
+    }
 }
 
 Ordavel::~Ordavel()
 {
-    m_Statistica->Ferma();
+    Deinit();
 }
 
-bool Ordavel::PoniPercorso(const std::string& sPercorso, std::string& sCampo)
+bool Ordavel::CreaPercorsoOAvvisa(const std::string& sPercorso)
 {
-    if (!CreaPercorso(sPercorso)) {
+    const bool bCreato = CreaPercorso(sPercorso);
+    if (!bCreato) {
         Avvisa("Errore creazione percorso " + sPercorso);
+    }
+    return bCreato;
+}
+
+bool Ordavel::PoniPercorso(const std::string& sPercorso, std::string& sCampo, std::string_view sNome)
+{
+    if (!CreaPercorsoOAvvisa(sPercorso)) {
         return false;
     }
     sCampo = ConSeparatore(sPercorso);
+    NotaProprieta(sNome);
     return true;
 }
 
 bool Ordavel::PoniDirSistemi(const std::string& sPercorso)
 {
-    return PoniPercorso(sPercorso, m_DirSistemi);
+    return PoniPercorso(sPercorso, m_DirSistemi, "DirSistemi");
 }
 
 bool Ordavel::PoniPercorsoTemp(const std::string& sPercorso)
 {
-    if (!PoniPercorso(sPercorso, m_PercorsoTemp)) {
+    // A run ends where it began: its file is not taken from under it.
+    if (m_bInCorso || !CreaPercorsoOAvvisa(sPercorso)) {
         return false;
     }
+    m_PercorsoTemp = ConSeparatore(sPercorso);
     m_FileColonne = m_PercorsoTemp + "Sviluppo.col";
+    NotaProprieta("PercorsoTemp");
     return true;
 }
 
 bool Ordavel::PoniPercorsoSalvaColonne(const std::string& sPercorso)
 {
-    return PoniPercorso(sPercorso, m_PercorsoSalvaColonne);
+    return PoniPercorso(sPercorso, m_PercorsoSalvaColonne, "PercorsoSalvaColonne");
 }
 
 void Ordavel::SelezionaComboMotSviluppo()
@@ -137,12 +163,6 @@ NumeriScelti Ordavel::GetNumeriSel() const
     return aNumeri;
 }
 
-void Ordavel::SetColonnaGrid(std::int32_t nId)
-{
-    m_GrdCond.PoniCorrente(nId);
-    m_Controlli.GrdCond.PortaInVista(nId);
-}
-
 bool Ordavel::IsCondizionePresente(std::string_view sNome) const
 {
     return ordavel::IsCondizionePresente(m_GrdCond, sNome);
@@ -158,12 +178,6 @@ bool Ordavel::VerificaCoerenzaLink()
     }
     Avvisa("Link non valide");
     return false;
-}
-
-void Ordavel::LayOutGrid()
-{
-    m_GrdCond.Svuota();
-    m_Controlli.GrdCond.PrimaColonna.Poni(1);
 }
 
 void Ordavel::ImpostaProfiloGioco()
@@ -182,7 +196,11 @@ void Ordavel::ImpostaProfiloGioco()
 void Ordavel::CambioClasse()
 {
     // Without a class there is no system to count.
-    const bool bClasse = classe() > 0;
+    if (m_Classe != classe()) {
+        m_Classe = classe();
+        NotaProprieta("Classe");
+    }
+    const bool bClasse = m_Classe > 0;
     m_Controlli.LabIntegrale.Testo.Poni(bClasse ? FormattaNumero(ColonneIntegrali()) : std::string());
     CambioRiduzione();
 }
@@ -230,6 +248,8 @@ void Ordavel::AbilitaComandiSviluppo(bool bInCorso)
     for (Combo* combo : {&m_Controlli.CmbClasse, &m_Controlli.CmbRid, &m_Controlli.CmbMotSviluppo}) {
         combo->Abilitato.Poni(!bInCorso);
     }
+    // A selector that is open would change the picks of which the columns are made.
+    m_Controlli.SelnovoNumeri1.Abilitato.Poni(!bInCorso);
     AggiornaComandiColonne();
 }
 

@@ -72,13 +72,11 @@ bool Ordavel::SalvaFileColonne()
     }
     bool bCopiato = false;
     ConGestore(m_Piattaforma, "OrdavelSisG.SalvaFileColonne", [&] {
-        const std::string sSistema = SenzaEstensione(NomeDi(m_FileSistema));
-        const std::string sFile =
-            m_Piattaforma.DialogoSalva({.sTitolo = "Salva colonne",
-                                        .sFiltro = "File colonne (*.col)|*.col",
-                                        .sEstensione = ".col",
-                                        .sNomeFile = (sSistema.empty() ? "NuovoSistema" : sSistema) + ".col",
-                                        .sCartella = m_PercorsoSalvaColonne});
+        const std::string sFile = m_Piattaforma.DialogoSalva({.sTitolo = "Salva colonne",
+                                                              .sFiltro = "File colonne (*.col)|*.col",
+                                                              .sEstensione = ".col",
+                                                              .sNomeFile = NomeSuggerito() + ".col",
+                                                              .sCartella = m_PercorsoSalvaColonne});
         if (sFile.empty() || !KillFile(sFile, m_Piattaforma)) {
             return;
         }

@@ -2,6 +2,7 @@
 
 #include "ordavel/Ordavel.hpp"
 
+#include "analisi/F_NavigaSistema.hpp"
 #include "condizioni/ModRighe.hpp"
 #include "condizioni/ModTestoCelle.hpp"
 #include "core/ModGestore.hpp"
@@ -110,6 +111,9 @@ void Ordavel::EliminaCondizione()
     if (!m_bInCorso) {
         ordavel::EliminaCondizione(m_GrdCond);
         SegnaModificato();
+        if (m_NavigaSistema && m_NavigaSistema->Visibile.Valore()) {
+            m_NavigaSistema->LoadTree();
+        }
     }
 }
 

@@ -132,6 +132,7 @@ void Ordavel::ImpostaNumeriDaFile(const Tabella<Booleano, 1, kNumeroMassimo>& aN
         aScelti[n] = aNumeri[n] != 0 ? 1 : 0;
     }
     m_Controlli.SelnovoNumeri1.Scelti.Poni(aScelti);
+    DisegnaNumeriProno();
     // The labels were cleared: they are written again even when the same numbers come back.
     CambioNumeri();
 }

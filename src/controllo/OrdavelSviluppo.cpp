@@ -202,6 +202,11 @@ void Ordavel::SviluppaCondizionatoEsterno()
                                    Errore(eErrore::fileNonTrovato, "TorvanSvilSist"));
 }
 
+void Ordavel::AggiornaProgressSviluppoDll()
+{
+    throw Errore(eErrore::fileNonTrovato, "TorvanSvilSist");
+}
+
 void Ordavel::SviluppaCondizionatoDaFileColonne(const std::string& sFileColonne)
 {
     ConGestore(m_Piattaforma, "OrdavelSisE.SviluppaCondizionatoDaFileColonne", [&] {

@@ -10,8 +10,8 @@ namespace ordavel {
 
 class OspiteOrdavel : public OspiteDialoghi {
 public:
-    /// All three outlive it.
-    OspiteOrdavel(Ordavel& ordavel, Piattaforma& piattaforma, Statistica& statistica)
+    /// All three outlive it; the statistics may be gone before.
+    OspiteOrdavel(Ordavel& ordavel, Piattaforma& piattaforma, const std::unique_ptr<Statistica>& statistica)
         : m_Ordavel(ordavel), m_Piattaforma(piattaforma), m_Statistica(statistica)
     {}
 
@@ -24,13 +24,25 @@ public:
     {
         return m_Ordavel.PercorsoSalvaColonne();
     }
+    [[nodiscard]] std::string GetColonnaSviluppo(std::int32_t nId) override
+    {
+        return m_Ordavel.GetColonnaSviluppo(nId);
+    }
+    void SetColonnaGrid(std::int32_t nId) override { m_Ordavel.SetColonnaGrid(nId); }
+    void AnnullaExport() override { m_Ordavel.AnnullaExport(); }
     [[nodiscard]] Piattaforma& Desktop() override { return m_Piattaforma; }
-    [[nodiscard]] Statistica& StatisticaSistema() override { return m_Statistica; }
+    [[nodiscard]] Statistica& StatisticaSistema() override
+    {
+        if (!m_Statistica) {
+            throw Errore(eErrore::oggetto, "Statistica");
+        }
+        return *m_Statistica;
+    }
 
 private:
     Ordavel& m_Ordavel;
     Piattaforma& m_Piattaforma;
-    Statistica& m_Statistica;
+    const std::unique_ptr<Statistica>& m_Statistica;
 };
 
 } // namespace ordavel

@@ -25,7 +25,14 @@ public:
     /// Folders of systems and of column files.
     [[nodiscard]] virtual const std::string& DirSistemi() const = 0;
     [[nodiscard]] virtual const std::string& PercorsoSalvaColonne() const = 0;
+    /// A column of the working file as text, from 1; empty behind the end.
+    [[nodiscard]] virtual std::string GetColonnaSviluppo(std::int32_t nId) = 0;
+    /// Selects a condition and brings it into view.
+    virtual void SetColonnaGrid(std::int32_t nId) = 0;
+    /// Ends a text export at its next look.
+    virtual void AnnullaExport() = 0;
     [[nodiscard]] virtual Piattaforma& Desktop() = 0;
+    /// Fails    91: the component is at its end
     [[nodiscard]] virtual Statistica& StatisticaSistema() = 0;
 };
 

@@ -4,11 +4,11 @@
 
 #include "core/ModFunzGeneriche.hpp"
 #include "core/ModGestore.hpp"
-#include "core/ModNumeri.hpp"
 #include "core/ModTesti.hpp"
 #include "persistenza/CampiRecord.hpp"
 
 #include <algorithm>
+#include <array>
 
 namespace ordavel {
 
@@ -18,6 +18,24 @@ constexpr std::string_view kOrigine = "Mod_Sviluppo.GetNumeroColonneInFile";
 
 /// How far into a system file the columns are looked for.
 constexpr std::int64_t kByteRicercaColonne = 66800;
+
+/// The place of a number in a column's text: two digits and a blank. The three digits of a byte above 99, which
+/// only a damaged file holds, fill the place of their blank; the last place of a full column loses its third.
+using PostoNumero = std::array<char, 3>;
+
+constexpr std::array<PostoNumero, 256> PostiNumeri() noexcept
+{
+    constexpr std::string_view kCifre = "0123456789";
+    std::array<PostoNumero, 256> aPosti{};
+    for (std::size_t n = 0; n < aPosti.size(); ++n) {
+        const char cUnita = kCifre[n % 10];
+        aPosti[n] = n < 100 ? PostoNumero{kCifre[n / 10], cUnita, ' '}
+                            : PostoNumero{kCifre[n / 100], kCifre[n / 10 % 10], cUnita};
+    }
+    return aPosti;
+}
+
+constexpr auto kPosti = PostiNumeri();
 
 double ColonneInByte(std::int64_t nByte)
 {
@@ -70,23 +88,25 @@ std::int16_t GetClasseColonneInFile(const std::string& sPath, Segnalatore& segna
     return nClasse;
 }
 
-std::string FormattaColonna(std::span<const std::uint8_t> aNumeri, bool bTutti)
+void AccodaColonnaFormattata(std::span<const std::uint8_t> aNumeri, bool bTutti, std::string& sTesto)
 {
-    // Places of three characters, two digits and a blank. The three digits of a byte above 99, which only a
-    // damaged file holds, fill the place of their blank; behind the last place there is none.
-    std::string sTesto(3 * aNumeri.size(), ' ');
-    std::size_t nPosto = 0;
+    std::size_t nPosti = 0;
     for (const std::uint8_t nNumero : aNumeri) {
         if (bTutti || nNumero > 0) {
-            const std::string sCifre = Formatta00(nNumero);
-            sTesto.replace(nPosto, sCifre.size(), sCifre);
-            nPosto += 3;
+            sTesto.append(kPosti[nNumero].data(), kPosti[nNumero].size());
+            ++nPosti;
         }
     }
-    if (!sTesto.empty()) {
+    if (nPosti > 0 && (nPosti == aNumeri.size() || sTesto.back() == ' ')) {
         sTesto.pop_back();
     }
-    return std::string(TogliBlank(sTesto));
+}
+
+std::string FormattaColonna(std::span<const std::uint8_t> aNumeri, bool bTutti)
+{
+    std::string sTesto;
+    AccodaColonnaFormattata(aNumeri, bTutti, sTesto);
+    return sTesto;
 }
 
 Colonna LeggiColonna(FileBinario& file, std::int64_t nId)

@@ -38,6 +38,9 @@ inline constexpr std::int32_t kColonneInMemoria = 1000000;
 /// Gives    an empty text for a column of zeros without bTutti
 [[nodiscard]] std::string FormattaColonna(std::span<const std::uint8_t> aNumeri, bool bTutti);
 
+/// The same, put behind what a text holds.
+void AccodaColonnaFormattata(std::span<const std::uint8_t> aNumeri, bool bTutti, std::string& sTesto);
+
 /// Column nId of an open column file, from 1. What the file does not hold reads as 0.
 /// Fails    57: also when nId is below 1
 [[nodiscard]] Colonna LeggiColonna(FileBinario& file, std::int64_t nId);
