@@ -269,7 +269,7 @@ public:
     void Stop();
 
     /// Takes over the counts of the external engine, which is not there yet: failure 53 for its library.
-    void AggiornaProgressSviluppoDll();
+    static void AggiornaProgressSviluppoDll();
 
     /// What the last run compiled and counted.
     [[nodiscard]] const StatoSviluppo& UltimoSviluppo() const noexcept { return m_Stato; }
@@ -301,8 +301,8 @@ public:
     void AnnullaExport() noexcept { m_StopExport = true; }
 
     /// Reduces a column file. There is no reduction yet: failure 438.
-    void RiduciColonne(const std::string& sFileCol, std::int32_t nPuntiRichiesti);
-    void StopRiduciColonne() noexcept {}
+    static void RiduciColonne(const std::string& sFileCol, std::int32_t nPuntiRichiesti);
+    static void StopRiduciColonne() noexcept {}
 
     // ---- measures of a column ----
     //
@@ -310,30 +310,30 @@ public:
     //          col       the column; its first nClasse numbers count
     // Fails    9: nClasse above 20; and as each says
 
-    [[nodiscard]] std::int32_t CalcolaBaricentro(std::int16_t nClasse,
-                                                 const Colonna& col) const; ///< 11: class 0
-    [[nodiscard]] std::int32_t CalcolaPonte(std::int16_t nClasse, const Colonna& col) const;
-    [[nodiscard]] std::int32_t CalcolaAmpiezza(std::int16_t nClasse,
-                                               const Colonna& col) const; ///< 6: not ascending
-    [[nodiscard]] std::int32_t CalcolaDistanzaMinima(std::int16_t nClasse,
-                                                     const Colonna& col) const; ///< 6 as well
-    [[nodiscard]] std::int32_t CalcolaDistanzaMassima(std::int16_t nClasse,
-                                                      const Colonna& col) const; ///< 6 as well
-    [[nodiscard]] std::int32_t CalcolaConsecutivi(std::int16_t nClasse, const Colonna& col) const;
-    [[nodiscard]] std::int32_t CalcolaInterruzioniPD(std::int16_t nClasse, const Colonna& col) const;
-    [[nodiscard]] std::int32_t CalcolaVorticeDiretto(std::int16_t nClasse, const Colonna& col) const;
-    [[nodiscard]] std::int32_t CalcolaVorticeInverso(std::int16_t nClasse, const Colonna& col) const;
-    [[nodiscard]] std::int32_t CalcolaSimmetrieDirette(std::int16_t nClasse, const Colonna& col) const;
-    [[nodiscard]] std::int32_t CalcolaSimmetrieInverse(std::int16_t nClasse, const Colonna& col) const;
-    [[nodiscard]] std::int32_t CalcolaParalleliDiretti(std::int16_t nClasse, const Colonna& col) const;
-    [[nodiscard]] std::int32_t CalcolaParalleliInversi(std::int16_t nClasse, const Colonna& col) const;
+    [[nodiscard]] static std::int32_t CalcolaBaricentro(std::int16_t nClasse,
+                                                        const Colonna& col); ///< 11: class 0
+    [[nodiscard]] static std::int32_t CalcolaPonte(std::int16_t nClasse, const Colonna& col);
+    [[nodiscard]] static std::int32_t CalcolaAmpiezza(std::int16_t nClasse,
+                                                      const Colonna& col); ///< 6: not ascending
+    [[nodiscard]] static std::int32_t CalcolaDistanzaMinima(std::int16_t nClasse,
+                                                            const Colonna& col); ///< 6 as well
+    [[nodiscard]] static std::int32_t CalcolaDistanzaMassima(std::int16_t nClasse,
+                                                             const Colonna& col); ///< 6 as well
+    [[nodiscard]] static std::int32_t CalcolaConsecutivi(std::int16_t nClasse, const Colonna& col);
+    [[nodiscard]] static std::int32_t CalcolaInterruzioniPD(std::int16_t nClasse, const Colonna& col);
+    [[nodiscard]] static std::int32_t CalcolaVorticeDiretto(std::int16_t nClasse, const Colonna& col);
+    [[nodiscard]] static std::int32_t CalcolaVorticeInverso(std::int16_t nClasse, const Colonna& col);
+    [[nodiscard]] static std::int32_t CalcolaSimmetrieDirette(std::int16_t nClasse, const Colonna& col);
+    [[nodiscard]] static std::int32_t CalcolaSimmetrieInverse(std::int16_t nClasse, const Colonna& col);
+    [[nodiscard]] static std::int32_t CalcolaParalleliDiretti(std::int16_t nClasse, const Colonna& col);
+    [[nodiscard]] static std::int32_t CalcolaParalleliInversi(std::int16_t nClasse, const Colonna& col);
     /// Matches of a parity pattern of letters "P" and "D"; the first place is compared with an even number and the
     /// last letter has no say. The second form also gives the longest chain.
     /// Fails    9: more than 90 letters
-    [[nodiscard]] std::int32_t CalcolaSequenze(std::int16_t nClasse, const Colonna& col,
-                                               std::string_view sSeq) const;
-    [[nodiscard]] std::int32_t CalcolaPuntiSequenze(std::int16_t nClasse, const Colonna& col,
-                                                    std::string_view sSeq, std::int32_t& nRetConsec) const;
+    [[nodiscard]] static std::int32_t CalcolaSequenze(std::int16_t nClasse, const Colonna& col,
+                                                      std::string_view sSeq);
+    [[nodiscard]] static std::int32_t CalcolaPuntiSequenze(std::int16_t nClasse, const Colonna& col,
+                                                           std::string_view sSeq, std::int32_t& nRetConsec);
 
     // ---- the system file ----
 
@@ -385,7 +385,7 @@ private:
 
     // Settings.
     void Pubblica() noexcept;
-    void NotaProprieta(std::string_view sNome);
+    void NotaProprieta(std::string_view sNome) const;
 
     // Grid and strip.
     void MisuraLarghezze();
@@ -408,7 +408,7 @@ private:
     void ScegliDaMenu(TipoCondizione tipo);
     void SalvaConFlag(std::string sFile);
     void ApriFiltroFileColonne();
-    [[noreturn]] void NonAncora(std::string_view sNome) const;
+    [[noreturn]] static void NonAncora(std::string_view sNome);
 
     // Runs.
     void MostraFineSviluppo(float nInizio);

@@ -44,9 +44,9 @@ void Ordavel::Toolbar2_ButtonClick(std::string_view sChiave)
         {"IncrGrid", [](Ordavel& o) { o.VariaLarghezzaColonne(1); }},
         {"DecrGrid", [](Ordavel& o) { o.VariaLarghezzaColonne(-1); }},
         {"Naviga", [](Ordavel& o) { o.PremiNaviga(); }},
-        {"EffettoCondizioni", [](Ordavel& o) { o.NonAncora("F_EffettoCond"); }},
-        {"ConfrontoCondSuCol", [](Ordavel& o) { o.NonAncora("F_Spoglio"); }},
-        {"Riduzione", [](Ordavel& o) { o.NonAncora("F_Riduzione"); }},
+        {"EffettoCondizioni", [](Ordavel&) { NonAncora("F_EffettoCond"); }},
+        {"ConfrontoCondSuCol", [](Ordavel&) { NonAncora("F_Spoglio"); }},
+        {"Riduzione", [](Ordavel&) { NonAncora("F_Riduzione"); }},
         {"StampaSk", [](Ordavel& o) { o.PremiStampa(); }},
         {"puntimassivi", [](Ordavel& o) { o.ApplicaImpostaPunti(); }},
     });
@@ -226,7 +226,7 @@ void Ordavel::ApriFiltroFileColonne()
     GestSviluppoDaFileColonne(sFile);
 }
 
-void Ordavel::NonAncora(std::string_view sNome) const
+void Ordavel::NonAncora(std::string_view sNome)
 {
     throw Errore(eErrore::membro, sNome);
 }

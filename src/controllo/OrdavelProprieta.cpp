@@ -97,7 +97,7 @@ void Ordavel::PoniNumeroThreadsSviluppo(std::int16_t nThread)
     NotaProprieta("NumeroThreadsSviluppo");
 }
 
-void Ordavel::NotaProprieta(std::string_view sNome)
+void Ordavel::NotaProprieta(std::string_view sNome) const
 {
     if (m_Eventi.PropertyChanged) {
         m_Eventi.PropertyChanged(sNome);
