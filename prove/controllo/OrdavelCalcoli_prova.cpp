@@ -27,7 +27,7 @@ using testing::IsEmpty;
 /// A measure of the component, the function that it stands for, and what it says of 3, 4, 6, 17, 19.
 struct Misura {
     std::string_view sNome;
-    std::int32_t (Ordavel::*membro)(std::int16_t, const Colonna&) const;
+    std::int32_t (*membro)(std::int16_t, const Colonna&);
     std::int32_t (*libera)(std::int16_t, const Colonna&);
     std::int32_t nEsempio;
 
@@ -75,7 +75,7 @@ struct Banco {
     void Confronta(std::int16_t nClasse, const Colonna& colonna) const
     {
         for (const Misura& misura : kMisure) {
-            const Esito chiesto = EsitoDi([&](auto&) { return (sistema.*misura.membro)(nClasse, colonna); });
+            const Esito chiesto = EsitoDi([&](auto&) { return misura.membro(nClasse, colonna); });
             const Esito atteso = EsitoDi([&](auto&) { return misura.libera(nClasse, colonna); });
             RC_ASSERT(chiesto == atteso);
         }
@@ -133,7 +133,7 @@ class OrdavelCalcoli : public testing::TestWithParam<Misura>, protected Banco {
 protected:
     [[nodiscard]] std::int32_t Chiedi(std::int16_t nClasse, const std::vector<int>& aNumeri) const
     {
-        return (sistema.*GetParam().membro)(nClasse, ColonnaDi(aNumeri).colonna);
+        return GetParam().membro(nClasse, ColonnaDi(aNumeri).colonna);
     }
 };
 
