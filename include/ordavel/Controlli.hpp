@@ -167,6 +167,8 @@ struct RigaElenco {
     std::string sTesto;              ///< first column
     std::vector<std::string> aSotto; ///< the columns behind it
     bool bScelta = false;
+    std::size_t nColonnaColorata = 0; ///< the column behind the first, from 1, that has a colour; 0 for none
+    Colore nColore = 0;
 
     [[nodiscard]] friend bool operator==(const RigaElenco&, const RigaElenco&) = default;
 };

@@ -403,6 +403,8 @@ private:
     void PremiFiltra();
     void PremiVisualizza();
     void PremiNaviga();
+    void PremiEffetto();
+    void PremiConfronto();
     void PremiStampa();
     void InserisciDaBarra(TipoCondizione tipo);
     void ScegliDaMenu(TipoCondizione tipo);
@@ -412,6 +414,9 @@ private:
 
     // Runs.
     void MostraFineSviluppo(float nInizio);
+    [[nodiscard]] std::int16_t ChiediColonneDaEmulare();
+    [[nodiscard]] const std::string& FileBdGioco() const;
+    void PreparaEmulatore();
     void CaricaEmulatore();
     void PreparaCorsa();
     void SviluppaCondizionato();

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "ordavel/RigheEmulatore.hpp"
 #include "ordavel/records.hpp"
 
 #include <vector>
@@ -19,8 +20,9 @@ struct StatoSviluppo {
     std::vector<RecordCondizione> aCondizioni{1}; ///< compiled conditions in grid order; never empty
     std::int32_t nCondizioni = 1;                 ///< upper bound of aCondizioni plus 1
     QuadroRecuperi aQuadroRec;
-    bool bStopSviluppo = false;               ///< set by the stop command, read at each refresh
-    std::vector<RigaEmulatore> aEmulatore{1}; ///< draws of the emulator; one zero row when none is loaded
+    bool bStopSviluppo = false;      ///< set by the stop command, read at each refresh
+    bool bEmulatoreCaricato = false; ///< a run has looked for draws, and set aEmulatore
+    RigheEmulatore aEmulatore;       ///< draws of the emulator; one zero row when none is loaded
 
     std::int32_t nSviluppate = 0;   ///< columns examined in the last run
     std::int32_t nCondizionate = 0; ///< columns kept in the last run

@@ -55,6 +55,15 @@ inline Messaggio Avviso(std::string_view sTesto)
     return {.icona = eIcona::avviso, .sTitolo = {}, .sTesto = std::string(sTesto), .pulsanti = ePulsanti::ok};
 }
 
+/// What is said when the draws of an emulator cannot be had.
+inline Messaggio EmulatoreNonCreato()
+{
+    return {.icona = eIcona::nessuna,
+            .sTitolo = {},
+            .sTesto = "Filtro emulatore non creato",
+            .pulsanti = ePulsanti::ok};
+}
+
 /// A question with yes and no.
 inline Messaggio Domanda(std::string_view sTesto)
 {

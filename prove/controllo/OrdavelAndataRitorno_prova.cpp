@@ -4,6 +4,7 @@
 
 #include "comune/GeneratoriSistema.hpp"
 #include "controllo/SistemaProva.hpp"
+#include "editor/F_ScegliRuota.hpp"
 
 #include <rapidcheck/gtest.h>
 
@@ -56,13 +57,19 @@ void SalvaEApri(SistemaProva& origine, SistemaProva& copia)
     RC_ASSERT(copia.Apri(origine.cartella / "s.sic"));
 }
 
-/// Develops and gives the boxes but the last, which tells the time.
+/// Develops and gives the boxes but the last, which tells the time, and the first of an emulator, which has no
+/// archive here.
 std::vector<Messaggio> Guasti(SistemaProva& prova)
 {
+    const bool bEmulatore = prova.sistema.IsCondizionePresente("Emulatore");
+    if (bEmulatore) {
+        prova.piattaforma.Gioca<F_ScegliRuota>([](F_ScegliRuota&) {});
+    }
     RC_ASSERT(prova.sistema.GestSviluppo());
     auto aMessaggi = prova.piattaforma.Messaggi();
     RC_ASSERT(aMessaggi.back() == prove::FineSviluppo());
     aMessaggi.pop_back();
+    RC_ASSERT(std::erase(aMessaggi, prove::EmulatoreNonCreato()) == (bEmulatore ? 1U : 0U));
     return aMessaggi;
 }
 

@@ -2,7 +2,9 @@
 
 #include "ordavel/Ordavel.hpp"
 
+#include "analisi/F_EffettoCond.hpp"
 #include "analisi/F_NavigaSistema.hpp"
+#include "analisi/F_Spoglio.hpp"
 #include "controllo/ComandiProva.hpp"
 #include "controllo/F_VisualizzaColonne.hpp"
 #include "editor/F_ApriCondizioni.hpp"
@@ -365,20 +367,33 @@ TEST_P(OrdavelComandi, NavigaMostraAccantoLeCondizioni)
     EXPECT_EQ(Fotografa(), prima);
 }
 
-TEST_P(OrdavelComandi, LeAnalisiCheNonCiSonoFallisconoColLoroNome)
+TEST_P(OrdavelComandi, LaRiduzioneCheNonCEFallisceColSuoNome)
 {
     const Foto prima = Fotografa();
-    const std::pair<std::string_view, std::string_view> kAnalisi[]{
-        {"EffettoCondizioni", "F_EffettoCond"},
-        {"ConfrontoCondSuCol", "F_Spoglio"},
-        {"Riduzione", "F_Riduzione"},
-    };
-    for (const auto& [sChiave, sDialogo] : kAnalisi) {
-        Premi(sChiave);
-        EXPECT_THAT(piattaforma.Messaggi(),
-                    ElementsAre(Fallimento(kOrigine, Errore(eErrore::membro, sDialogo))));
-        EXPECT_EQ(Fotografa(), prima);
-    }
+    Premi("Riduzione");
+    EXPECT_THAT(piattaforma.Messaggi(),
+                ElementsAre(Fallimento(kOrigine, Errore(eErrore::membro, "F_Riduzione"))));
+    EXPECT_EQ(Fotografa(), prima);
+}
+
+TEST_P(OrdavelComandi, LoSpoglioSiMostraENonCambiaNulla)
+{
+    const Foto prima = Fotografa();
+    piattaforma.Gioca<F_Spoglio>([](F_Spoglio& dialogo) { dialogo.XPButton1(1); });
+    Premi("ConfrontoCondSuCol");
+    EXPECT_EQ(Fotografa(), prima);
+}
+
+TEST_P(OrdavelComandi, LEffettoDelleCondizioniSiMostraENonCambiaNulla)
+{
+    const Foto prima = Fotografa();
+    std::size_t nRighe = 0;
+    piattaforma.Gioca<F_EffettoCond>(
+        [&](F_EffettoCond& dialogo) { nRighe = dialogo.ListView1.Righe.Valore().size(); });
+    Premi("EffettoCondizioni");
+    const auto& aCondizioni = sistema.UltimoSviluppo().aCondizioni;
+    EXPECT_EQ(nRighe, aCondizioni.front().Tipo == TipoCondizione::nessuno ? 0 : aCondizioni.size());
+    EXPECT_EQ(Fotografa(), prima);
 }
 
 TEST_P(OrdavelComandi, StampaSkDaIlGiocoQuandoCiSonoColonne)

@@ -182,6 +182,10 @@ protected:
             Attendi(Avviso("Link non valide"));
             return false;
         }
+        if (sistema.IsCondizionePresente("Emulatore")) {
+            // There are no archives here.
+            EXPECT_EQ(std::erase(utente.aVisti, prove::EmulatoreNonCreato()), 1U);
+        }
         // A filter shows its own failure and counts as one that was not stopped.
         m_bValide =
             Fallita("ModSistemiCond.FiltraFile") || !Fallita("ModSistemiCond.InitSviluppoSistCondizionato");

@@ -3,6 +3,7 @@
 #include "ordavel/Ordavel.hpp"
 
 #include "controllo/SistemaProva.hpp"
+#include "editor/F_ScegliRuota.hpp"
 
 #include <gtest/gtest.h>
 
@@ -283,16 +284,45 @@ TEST_F(OrdavelSviluppo, LaFinestraFinaleSiMostraACorsaConclusa)
     EXPECT_FALSE(sistema.Controlli().PanSviluppo.Visibile.Valore());
 }
 
-TEST_F(OrdavelSviluppo, SenzaFileLEmulatoreHaUnaRigaDiZeri)
+/// Develops a system with an emulator, and answers which wheel.
+class OrdavelEmulatore : public OrdavelSviluppo {
+protected:
+    void SviluppaConRuota(std::int32_t nRuota, bool bCreato)
+    {
+        piattaforma.Gioca<F_ScegliRuota>([nRuota](F_ScegliRuota& dialogo) {
+            dialogo.CmbRuota.Indice.Poni(nRuota - 1);
+            dialogo.Premi(ePulsanteDialogo::conferma);
+        });
+        EXPECT_TRUE(sistema.GestSviluppo());
+        std::vector<Messaggio> aAttesi{FineSviluppo()};
+        if (!bCreato) {
+            aAttesi.insert(aAttesi.begin(), prove::EmulatoreNonCreato());
+        }
+        EXPECT_THAT(piattaforma.Messaggi(), testing::ElementsAreArray(aAttesi));
+    }
+
+    /// An archive of one draw of "Lotto": every wheel w has the numbers 5w-4 to 5w.
+    void Archivio()
+    {
+        std::string sByte(67, '\0');
+        for (std::size_t i = 0; i < 55; ++i) {
+            sByte[12 + i] = static_cast<char>(i + 1);
+        }
+        prove::ScriviFile(Temp("lotto.bd"), sByte);
+        sistema.PoniFileBdLotto(Temp("lotto.bd"));
+    }
+};
+
+TEST_F(OrdavelEmulatore, SenzaFileHaUnaRigaDiZeri)
 {
     Pronostico(3, 1, 4);
     sistema.GetGridCond().Riga(1) = {"Emulatore", "[1]\r\nP0) 1 - 1\r\nP1) 0 - 0\r\n", "", "", ""};
-    Sviluppa();
-    EXPECT_THAT(sistema.UltimoSviluppo().aEmulatore, ElementsAre(RigaEmulatore{}));
+    SviluppaConRuota(1, false);
+    EXPECT_THAT(sistema.UltimoSviluppo().aEmulatore.Righe(), ElementsAre(RigaEmulatore{}));
     EXPECT_EQ(sistema.QuantitaColonne(), 4);
 }
 
-TEST_F(OrdavelSviluppo, LEmulatoreSiLeggeDalSuoFile)
+TEST_F(OrdavelEmulatore, QuandoNonSiCreaSiLeggeIlFileDiPrima)
 {
     // The one draw holds 1 and 2; a column may hit it once and no more.
     std::string sRiga(91, '\0');
@@ -301,11 +331,44 @@ TEST_F(OrdavelSviluppo, LEmulatoreSiLeggeDalSuoFile)
     Pronostico(2, 1, 4);
     sistema.GetGridCond().Riga(1) = {"Emulatore", "[1]\r\nP0) 0 - 0\r\nP1) 1 - 1\r\nP2) 0 - 0\r\n", "", "",
                                      ""};
-    Sviluppa();
+    SviluppaConRuota(1, false);
     EXPECT_EQ(ByteColonne(), ByteDi({{1, 3}, {1, 4}, {2, 3}, {2, 4}}));
     std::filesystem::remove(Temp("Emulatore.dat"));
-    Sviluppa();
+    SviluppaConRuota(1, false);
     EXPECT_EQ(ByteColonne(), "");
+}
+
+TEST_F(OrdavelEmulatore, LeEstrazioniSonoQuelleDellaRuota)
+{
+    Archivio();
+    Pronostico(2, 5, 7);
+    sistema.GetGridCond().Riga(1) = {"Emulatore", "[1]\r\nP0) 0 - 0\r\nP1) 0 - 0\r\nP2) 1 - 1\r\n", "", "",
+                                     ""};
+    SviluppaConRuota(2, true);
+    EXPECT_EQ(ByteColonne(), ByteDi({{6, 7}})) << "wheel 2 has 6 to 10";
+    EXPECT_EQ(prove::LeggiFile(Temp("Emulatore.dat")).size(), std::size_t{91});
+}
+
+TEST_F(OrdavelEmulatore, AncheUnFiltroLeChiede)
+{
+    Archivio();
+    sistema.GetGridCond().Riga(1) = {"Emulatore", "[1]\r\nP0) 0 - 0\r\nP1) 1 - 1\r\nP2) 0 - 0\r\n", "", "",
+                                     ""};
+    prove::ScriviFile(Temp("altre.col"), ByteDi({{5, 6}, {6, 7}, {20, 21}}));
+    piattaforma.Gioca<F_ScegliRuota>([](F_ScegliRuota&) {});
+    EXPECT_TRUE(sistema.GestSviluppoDaFileColonne(Temp("altre.col")));
+    EXPECT_THAT(piattaforma.Messaggi(), ElementsAre(FineSviluppo()));
+    EXPECT_EQ(ByteColonne(), ByteDi({{5, 6}})) << "wheel 1 has 1 to 5";
+}
+
+TEST_F(OrdavelEmulatore, ColDieciELottoNonSiCrea)
+{
+    Archivio();
+    sistema.PoniFileBd10Lotto(Temp("lotto.bd"));
+    sistema.Controlli().CmbTipoGioco.Indice.Poni(1);
+    Pronostico(2, 1, 3);
+    sistema.GetGridCond().Riga(1) = {"Emulatore", "[1]\r\nP0) 0 - 9\r\n", "", "", ""};
+    SviluppaConRuota(1, false);
 }
 
 } // namespace

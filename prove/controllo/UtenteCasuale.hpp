@@ -12,6 +12,7 @@
 #include "editor/F_LinkClose.hpp"
 #include "editor/F_QuadroRecuperi.hpp"
 #include "editor/F_SalvaCondizioni.hpp"
+#include "editor/F_ScegliRuota.hpp"
 #include "editor/LimitiRighe.hpp"
 
 #include <gtest/gtest.h>
@@ -60,6 +61,10 @@ public:
 
     void MostraModale(Dialogo& dialogo) override
     {
+        if (auto* ruota = dynamic_cast<F_ScegliRuota*>(&dialogo)) {
+            // A question in front of a run, not a work of the step.
+            return ruota->CmbRuota.Indice.Poni(Tra(0, 10));
+        }
         aMostrati.push_back(dialogo.sNome);
         dialogo.Mostra();
         Lavora(dynamic_cast<DialogoConferma&>(dialogo));

@@ -132,8 +132,8 @@ TEST(Records, UnoStatoNuovoHaUnaCondizioneEUnaRigaDiEmulatore)
     const StatoSviluppo stato;
     EXPECT_EQ(stato.aCondizioni.size(), 1U);
     EXPECT_EQ(stato.nCondizioni, 1);
-    ASSERT_EQ(stato.aEmulatore.size(), 1U);
-    EXPECT_EQ(stato.aEmulatore[0], RigaEmulatore{});
+    ASSERT_EQ(stato.aEmulatore.Righe().size(), 1U);
+    EXPECT_EQ(stato.aEmulatore.Righe()[0], RigaEmulatore{});
     EXPECT_FALSE(stato.bStopSviluppo);
 }
 

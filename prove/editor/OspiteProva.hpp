@@ -29,6 +29,14 @@ public:
     [[nodiscard]] const std::string& DirSistemi() const override { return sDirSistemi; }
     [[nodiscard]] const std::string& PercorsoSalvaColonne() const override { return sPercorsoSalvaColonne; }
     [[nodiscard]] Statistica& StatisticaSistema() override { return m_Statistica; }
+    [[nodiscard]] double ColonneIntegrali() const override { return nIntegrali; }
+    [[nodiscard]] const ordavel::Lista& GetLbQuadroRec() override { return listaQuadro; }
+    [[nodiscard]] const StatoSviluppo& UltimoSviluppo() const override { return stato; }
+    bool GetColonneSviluppo(std::vector<Colonna>& aRetCol) override
+    {
+        aRetCol = aColonneSviluppo;
+        return false;
+    }
     [[nodiscard]] std::string GetColonnaSviluppo(std::int32_t nId) override
     {
         ++nColonneLette;
@@ -40,6 +48,10 @@ public:
 
     PiattaformaProva desktop;
     GrigliaCondizioni griglia;
+    double nIntegrali = 0;
+    ordavel::Lista listaQuadro;
+    StatoSviluppo stato;
+    std::vector<Colonna> aColonneSviluppo{Colonna{}};
     std::vector<std::string> aColonne; ///< of the working file, as text
     int nColonneLette = 0;
     bool bExportAnnullato = false;

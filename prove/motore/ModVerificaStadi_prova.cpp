@@ -256,12 +256,13 @@ StatoSviluppo SistemaCasuale(std::int16_t nClasse)
     StatoSviluppo stato;
     LeggiCondizioniDaGriglia(stato.aCondizioni, prove::GrigliaDi(aRighe), aQuadro, stato.aQuadroRec);
     EstendiRecuperiSequenze(stato.aCondizioni);
-    stato.aEmulatore.assign(static_cast<std::size_t>(Tra(1, 6)), RigaEmulatore{});
-    for (RigaEmulatore& aRiga : stato.aEmulatore) {
+    std::vector<RigaEmulatore> aRigheEmulatore(static_cast<std::size_t>(Tra(1, 6)));
+    for (RigaEmulatore& aRiga : aRigheEmulatore) {
         for (int n = 1; n <= kNumeroMassimo; ++n) {
             aRiga[n] = static_cast<std::uint8_t>(Tra(0, 3) == 0 ? 1 : 0);
         }
     }
+    stato.aEmulatore = RigheEmulatore(std::move(aRigheEmulatore));
     return stato;
 }
 

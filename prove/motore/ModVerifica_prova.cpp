@@ -240,13 +240,14 @@ TEST(ModVerifica, UnaFormulaVuoleITreConteggiUguali)
 StatoSviluppo StatoEmulatore(const RecordCondizione& record)
 {
     StatoSviluppo stato = StatoDi({record});
-    stato.aEmulatore.assign(3, RigaEmulatore{});
+    std::vector<RigaEmulatore> aRighe(3);
     const std::vector<std::vector<int>> aEstrazioni{{1, 2, 3}, {4, 5, 6}, {1, 5, 7}};
     for (std::size_t i = 0; i < aEstrazioni.size(); ++i) {
         for (const int nNumero : aEstrazioni[i]) {
-            stato.aEmulatore[i](nNumero) = 1;
+            aRighe[i](nNumero) = 1;
         }
     }
+    stato.aEmulatore = RigheEmulatore(std::move(aRighe));
     return stato;
 }
 

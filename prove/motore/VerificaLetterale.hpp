@@ -54,7 +54,7 @@ public:
         case 23: return Lista(r, CalcolaDecine(n, c));
         case 24: return Lista(r, CalcolaFigure(n, c));
         case 25: return Terna(r, CalcolaFormule(n, c));
-        case 26: return Istogramma(r, CalcolaEmulatore(n, c, m_Stato.aEmulatore));
+        case 26: return Istogramma(r, CalcolaEmulatore(n, c, m_Stato.aEmulatore.Righe()));
         case 27: return Lista(r, CalcolaSimmetrieNum(n, c));
         case 28: return Lista(r, CalcolaParalleliNum(n, c));
         case 29: return Lista(r, CalcolaFulcro(n, p, r.Parametro));

@@ -22,6 +22,7 @@ CASA = {
     "errore.hpp": "core",
     "esporta.hpp": "core",  # generated
     "records.hpp": "core",
+    "RigheEmulatore.hpp": "core",
     "StatoSviluppo.hpp": "core",
     "GrigliaCondizioni.hpp": "condizioni",
     "ArchivioProprieta.hpp": "piattaforma",

@@ -71,16 +71,6 @@ std::int32_t ClassePiuPiena(std::int16_t nClasse, const Colonna& colonna, const 
     return nMassimo;
 }
 
-/// Refuses a column with a number that a draw has no byte for, so that the draws are read unchecked.
-void VerificaNumeri(std::int16_t nClasse, const Colonna& colonna)
-{
-    for (int k = 1; k <= nClasse; ++k) {
-        if (colonna[k] > kNumeroMassimo) {
-            Solleva(eErrore::indice);
-        }
-    }
-}
-
 int Colpi(std::int16_t nClasse, const Colonna& colonna, const RigaEmulatore& aRiga)
 {
     int nColpi = 0;
@@ -141,6 +131,15 @@ std::int32_t CalcolaSommaComplessiva(std::int16_t nClasse, const Colonna& colonn
                                      const FlagNumeri& aPosizioni)
 {
     return SommaPosizioni(nClasse, colonna, aPosizioni, kAddendiComplessivi);
+}
+
+void VerificaNumeri(std::int16_t nClasse, const Colonna& colonna)
+{
+    for (int k = 1; k <= nClasse; ++k) {
+        if (colonna[k] > kNumeroMassimo) {
+            Solleva(eErrore::indice);
+        }
+    }
 }
 
 ContatoriEmulatore CalcolaEmulatore(std::int16_t nClasse, const Colonna& colonna,

@@ -42,6 +42,11 @@ using ContatoriFormule = Tabella<std::int16_t, 1, 3>;
 [[nodiscard]] std::int32_t CalcolaSommaComplessiva(std::int16_t nClasse, const Colonna& colonna,
                                                    const FlagNumeri& aPosizioni);
 
+/// Refuses a column of which one of the first nClasse numbers is above 90.
+/// Takes    nClasse   at most 20
+/// Fails    9
+void VerificaNumeri(std::int16_t nClasse, const Colonna& colonna);
+
 /// How often a column would have hit the emulated draws: element h counts the draws with h hits.
 using ContatoriEmulatore = Tabella<std::int16_t, 0, kNumeriColonna>;
 

@@ -2,13 +2,16 @@
 
 #include "cli/Comandi.hpp"
 
+#include "analisi/F_EffettoCond.hpp"
 #include "cli/Misure.hpp"
+#include "cli/Rispondi.hpp"
 #include "cli/Sessione.hpp"
 #include "cli/SistemaJson.hpp"
 #include "cli/Stampa.hpp"
+#include "cli/StampaElenco.hpp"
+#include "cli/UsaArchivio.hpp"
 #include "core/FileBinario.hpp"
 #include "core/ModFunzGeneriche.hpp"
-#include "core/ModGiochi.hpp"
 #include "core/ModNumeri.hpp"
 #include "persistenza/ModFileColonne.hpp"
 
@@ -97,12 +100,11 @@ bool CreaSistema(Sessione& sessione, const std::string& sTesto, const std::strin
 bool PreparaCorsa(Sessione& sessione, const OpzioniCorsa& opzioni)
 {
     ordavel::Ordavel& sistema = sessione.Sistema();
-    if (!opzioni.sGioco.empty()) {
-        sistema.Controlli().CmbTipoGioco.Indice.Poni(
-            static_cast<std::int32_t>(TrovaGioco(opzioni.sGioco) - ProfiliGioco().data()));
-        SelezionaCombo(" ", sistema.Controlli().CmbRid);
+    ScegliGioco(sessione, opzioni.sGioco);
+    if (!opzioni.bEffetto) {
+        ControllaUscita(opzioni.sUscita, opzioni.sSistema);
     }
-    ControllaUscita(opzioni.sUscita, opzioni.sSistema);
+    UsaArchivio(sessione, opzioni.sArchivio, opzioni.sRuota);
     if (!sessione.Apri(opzioni.sSistema, opzioni.sTemp)) {
         return false;
     }
@@ -180,6 +182,9 @@ bool CorriProtetto(Sessione& sessione, const OpzioniCorsa& opzioni, EsitoCorsa& 
         return false;
     }
     RaccogliEsito(sistema, esito);
+    if (opzioni.bEffetto) {
+        return !sessione.Desktop().Critico();
+    }
     return !sessione.Desktop().Critico() &&
            ScriviAlPosto(sessione.Desktop(), opzioni.sUscita, [&](const std::string& sProvvisorio) {
                sessione.Desktop().RispondiSalva(sProvvisorio);
@@ -223,6 +228,27 @@ eUscita Corri(const OpzioniCorsa& opzioni)
         std::cout << "\n  " << Riassunto(esito, opzioni.sUscita) << '\n';
     }
     return bFatto && esito.bInterrotto ? eUscita::interrotto : Uscita(bFatto);
+}
+
+eUscita Effetto(OpzioniCorsa opzioni)
+{
+    opzioni.bEffetto = true;
+    Sessione sessione(Terminale(STDERR_FILENO));
+    EsitoCorsa esito;
+    return Uscita(Protetto(sessione, opzioni.sSistema, [&] {
+        if (!CorriProtetto(sessione, opzioni, esito)) {
+            return false;
+        }
+        Elenco effetto;
+        Rispondi<F_EffettoCond>(sessione, [&](F_EffettoCond& finestra) { effetto = finestra.ListView1; });
+        sessione.Sistema().Toolbar2_ButtonClick("EffettoCondizioni");
+        if (opzioni.bJson) {
+            StampaJson(ElencoComeJson(effetto));
+        } else {
+            StampaElenco(std::cout, "Effetto condizioni", effetto);
+        }
+        return !sessione.Desktop().Critico();
+    }));
 }
 
 eUscita MisuraColonna(std::int16_t nClasse, std::vector<std::int16_t> aNumeri, bool bJson)

@@ -3,7 +3,7 @@
 #include "cli/Modifiche.hpp"
 
 #include "cli/ControlloParametri.hpp"
-#include "cli/Sessione.hpp"
+#include "cli/Rispondi.hpp"
 #include "cli/TestoErrato.hpp"
 #include "condizioni/ModCatalogo.hpp"
 #include "condizioni/ModColonneTesto.hpp"
@@ -21,16 +21,6 @@
 namespace ordavel::cli {
 
 namespace {
-
-/// What the program does with the dialog of that type, in the user's place.
-template <typename Finestra, typename Azione> void Rispondi(Sessione& sessione, Azione azione)
-{
-    sessione.Desktop().RispondiDialogo([azione](Dialogo& dialogo) {
-        if (auto* finestra = dynamic_cast<Finestra*>(&dialogo)) {
-            azione(*finestra);
-        }
-    });
-}
 
 std::int32_t Condizioni(Sessione& sessione)
 {

@@ -74,7 +74,7 @@ eRisposta PiattaformaCli::MostraMessaggio(const Messaggio& messaggio)
     }
     if (mostrato.icona == eIcona::critico) {
         std::cerr << "errore: " << mostrato.sTitolo << ": " << SuUnaRiga(mostrato.sTesto) << std::endl;
-    } else if (mostrato.icona == eIcona::avviso) {
+    } else if (mostrato.icona == eIcona::avviso || mostrato.icona == eIcona::nessuna) {
         std::cerr << "avviso: " << SuUnaRiga(mostrato.sTesto) << std::endl;
     }
     m_aMessaggi.push_back(std::move(mostrato));

@@ -2,8 +2,11 @@
 
 #include "cli/Programma.hpp"
 
+#include "cli/Analisi.hpp"
+#include "cli/Archivio.hpp"
 #include "cli/Colonne.hpp"
 #include "cli/Comandi.hpp"
+#include "cli/ControlloParole.hpp"
 #include "cli/Modifiche.hpp"
 #include "cli/PiattaformaCli.hpp"
 #include "condizioni/ModCatalogo.hpp"
@@ -14,6 +17,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <array>
 #include <functional>
 #include <iostream>
 #include <map>
@@ -34,28 +38,6 @@ constexpr const char* kChiusura =
     "  ordavel aggiungi sistema.sic --tipo Pari-Dispari --parametri 'Pari\\n2,3'\n"
     "  ordavel aggiungi sistema.sic --file condizioni.cnd\n"
     "  ordavel quadro sistema.sic --gruppo 1 --minimo 1 --massimo 2\n";
-
-/// A wrong use, in words.
-class UsoErrato : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
-
-/// The words of all commands, and what the one that was given does.
-struct Riga {
-    OpzioniCorsa corsa;
-    OpzioniAggiungi aggiungi;
-    OpzioniRighe righe;
-    OpzioniQuadro quadro;
-    OpzioniVedi vedi;
-    std::string sUscita;
-    std::string sTesto;
-    std::string sSistema;
-    std::int16_t nClasse = 0;
-    std::vector<std::int16_t> aNumeri;
-    bool bJson = false;
-    std::function<eUscita()> azione;
-};
 
 void TraduciAiuto(CLI::App& programma)
 {
@@ -97,6 +79,13 @@ void AggiungiMostra(CLI::App& programma, Riga& riga)
     comando->callback([&riga] { riga.azione = [&riga] { return Mostra(riga.sSistema, riga.bJson); }; });
 }
 
+void AggiungiGioco(CLI::App& comando, std::string& sGioco, std::string& sArchivio, std::string& sRuota)
+{
+    comando.add_option("--gioco", sGioco, "Nome del gioco");
+    comando.add_option("--archivio", sArchivio, "Le estrazioni del gioco, per il filtro emulatore");
+    comando.add_option("--ruota", sRuota, "La ruota da emulare, per il Lotto");
+}
+
 CLI::App* AggiungiCorsa(CLI::App& programma, Riga& riga, const std::string& sNome, const std::string& sScopo)
 {
     CLI::App* comando = NuovoComando(programma, sNome, sScopo);
@@ -104,9 +93,65 @@ CLI::App* AggiungiCorsa(CLI::App& programma, Riga& riga, const std::string& sNom
     comando->add_option("-o,--uscita", riga.corsa.sUscita, "Il file .col da scrivere")->required();
     comando->add_flag("--json", riga.corsa.bJson, "Il risultato come oggetto JSON");
     comando->add_option("--temp", riga.corsa.sTemp, "Cartella dei file temporanei");
-    comando->add_option("--gioco", riga.corsa.sGioco, "Nome del gioco");
+    AggiungiGioco(*comando, riga.corsa.sGioco, riga.corsa.sArchivio, riga.corsa.sRuota);
     comando->callback([&riga] { riga.azione = [&riga] { return Corri(riga.corsa); }; });
     return comando;
+}
+
+void AggiungiEffetto(CLI::App& programma, Riga& riga)
+{
+    CLI::App* comando = NuovoComando(programma, "effetto", "Sviluppa e dice che cosa fa ogni condizione");
+    comando->add_option("SISTEMA", riga.corsa.sSistema, "Il file .sic")->required();
+    comando->add_flag("--json", riga.corsa.bJson, "Come elenco JSON");
+    AggiungiGioco(*comando, riga.corsa.sGioco, riga.corsa.sArchivio, riga.corsa.sRuota);
+    comando->callback([&riga] { riga.azione = [&riga] { return Effetto(riga.corsa); }; });
+}
+
+void AggiungiSpoglio(CLI::App& programma, Riga& riga)
+{
+    OpzioniSpoglio& opzioni = riga.spoglio;
+    CLI::App* comando =
+        NuovoComando(programma, "spoglio", "Confronta colonne e condizioni con una colonna vincente");
+    comando->add_option("SISTEMA", opzioni.sSistema, "Il file .sic")->required();
+    comando->add_option("--colonne", opzioni.sColonne,
+                        "Il file .col; senza, le colonne che il sistema porta");
+    comando->add_option("--vincente", riga.sVincente, "I numeri vincenti, separati da punti")->required();
+    AggiungiGioco(*comando, opzioni.sGioco, opzioni.sArchivio, opzioni.sRuota);
+    comando->add_option("--minimo", opzioni.nMinimo, "Da quanti punti elencare le colonne, da 1 a 10");
+    comando->add_flag("--json", opzioni.bJson, "Come oggetto JSON");
+    comando->callback([&riga] { riga.azione = [&riga] { return Spoglio(riga.spoglio); }; });
+}
+
+/// One of the three things that are done with an archive.
+void AggiungiParteArchivio(CLI::App& comando, Riga& riga, const std::string& sNome, const std::string& sScopo,
+                           eUscita (*azione)(const OpzioniArchivio&))
+{
+    CLI::App* parte = NuovoComando(comando, sNome, sScopo);
+    parte->add_option("--gioco", riga.archivio.sGioco, "Nome del gioco");
+    if (sNome == "importa") {
+        parte->add_option("ESTRAZIONI", riga.archivio.sTesto, "Il testo .csv, la più vecchia per prima")
+            ->required();
+    }
+    parte->add_option("ARCHIVIO", riga.archivio.sArchivio, "Il file dell'archivio")->required();
+    if (sNome == "esporta") {
+        parte->add_option("ESTRAZIONI", riga.archivio.sTesto, "Il testo .csv da scrivere")->required();
+    }
+    parte->callback([&riga, azione] { riga.azione = [&riga, azione] { return azione(riga.archivio); }; });
+}
+
+void AggiungiArchivio(CLI::App& programma, Riga& riga)
+{
+    CLI::App* comando =
+        NuovoComando(programma, "archivio", "Archivi delle estrazioni, per il filtro emulatore");
+    comando->require_subcommand(1);
+    comando->footer("\nIl testo ha un'intestazione, \"Data\" e un nome per numero (da Bari1 a Nazionale5 per "
+                    "il Lotto, N1, "
+                    "N2 ...\nper gli altri), e una riga per estrazione; separano \";\", \",\" o un "
+                    "tabulatore. La data serve "
+                    "a chi legge:\nnell'archivio non va.\n");
+    AggiungiParteArchivio(*comando, riga, "importa", "Fa un archivio da un testo", ImportaArchivio);
+    AggiungiParteArchivio(*comando, riga, "esporta", "Scrive un archivio come testo", EsportaArchivio);
+    AggiungiParteArchivio(*comando, riga, "info", "Dice quante estrazioni ha un archivio", InfoArchivio);
 }
 
 void AggiungiMisura(CLI::App& programma, Riga& riga)
@@ -210,33 +255,9 @@ void AggiungiComandi(CLI::App& programma, Riga& riga)
     AggiungiSalvaCondizioni(programma, riga);
     AggiungiEsporta(programma, riga);
     AggiungiVedi(programma, riga);
-}
-
-/// Steps of one letter (put in, taken out, changed) from one word to another.
-std::size_t Distanza(std::string_view sUno, std::string_view sDue)
-{
-    std::vector<std::size_t> aRiga(sDue.size() + 1);
-    for (std::size_t j = 0; j <= sDue.size(); ++j) {
-        aRiga[j] = j;
-    }
-    for (std::size_t i = 1; i <= sUno.size(); ++i) {
-        std::size_t nDiagonale = aRiga[0];
-        aRiga[0] = i;
-        for (std::size_t j = 1; j <= sDue.size(); ++j) {
-            const std::size_t nCambio = nDiagonale + (sUno[i - 1] == sDue[j - 1] ? 0 : 1);
-            nDiagonale = aRiga[j];
-            aRiga[j] = std::min({nCambio, aRiga[j] + 1, aRiga[j - 1] + 1});
-        }
-    }
-    return aRiga.back();
-}
-
-/// The word of a list that takes the fewest steps.
-std::string PiuVicina(const std::string& sParola, const std::vector<std::string>& aParole)
-{
-    return *std::min_element(aParole.begin(), aParole.end(), [&](const auto& a, const auto& b) {
-        return Distanza(sParola, a) < Distanza(sParola, b);
-    });
+    AggiungiEffetto(programma, riga);
+    AggiungiSpoglio(programma, riga);
+    AggiungiArchivio(programma, riga);
 }
 
 /// The first word must be a command or an option; a wrong one is named, with the nearest command.
@@ -255,114 +276,6 @@ void ControllaComando(CLI::App& programma, int nArgomenti, const char* const* aA
     std::transform(aComandi.begin(), aComandi.end(), std::back_inserter(aNomi),
                    [](const CLI::App* comando) { return comando->get_name(); });
     throw UsoErrato("comando sconosciuto \"" + sParola + "\"; forse \"" + PiuVicina(sParola, aNomi) + "\"");
-}
-
-void ControllaGioco(const Riga& riga)
-{
-    if (riga.corsa.sGioco.empty() || TrovaGioco(riga.corsa.sGioco) != nullptr) {
-        return;
-    }
-    std::string sNomi;
-    for (const ProfiloGioco& gioco : ProfiliGioco()) {
-        sNomi.append(sNomi.empty() ? "" : ", ").append(gioco.sNome);
-    }
-    throw UsoErrato("gioco sconosciuto \"" + riga.corsa.sGioco + "\"; i giochi sono " + sNomi);
-}
-
-void ControllaGruppo(std::int32_t nGruppo, std::int32_t nMinimo)
-{
-    if (nGruppo < nMinimo || nGruppo > kGruppiRecupero) {
-        throw UsoErrato("i gruppi di recupero vanno da 1 a " + std::to_string(kGruppiRecupero) + ", non " +
-                        std::to_string(nGruppo));
-    }
-}
-
-void ControllaTipo(const std::string& sTipo)
-{
-    if (sTipo.empty() || TrovaChiaveSenzaCaso(sTipo) != nullptr) {
-        return;
-    }
-    std::vector<std::string> aChiavi;
-    for (const VoceCatalogo& voce : Catalogo()) {
-        aChiavi.emplace_back(voce.sChiave);
-    }
-    throw UsoErrato("condizione sconosciuta \"" + sTipo + "\"; forse \"" + PiuVicina(sTipo, aChiavi) + "\"");
-}
-
-void ControllaAggiungi(const Riga& riga)
-{
-    const OpzioniAggiungi& opzioni = riga.aggiungi;
-    const int nFonti = (opzioni.sTipo.empty() ? 0 : 1) + (opzioni.sFile.empty() ? 0 : 1) +
-                       (opzioni.sColonne.empty() ? 0 : 1);
-    if (nFonti != 1) {
-        throw UsoErrato("serve una sola cosa tra --tipo, --file e --colonne");
-    }
-    ControllaTipo(opzioni.sTipo);
-    if (!opzioni.sParametri.empty() && opzioni.sTipo.empty()) {
-        throw UsoErrato("--parametri va con --tipo");
-    }
-    const bool bPunti = !opzioni.aPunti.empty() || !opzioni.aRecupero.empty() || opzioni.nQuadro != 0;
-    if (bPunti && opzioni.sColonne.empty()) {
-        throw UsoErrato("--punti, --recupero e --quadro vanno con --colonne");
-    }
-    if (!opzioni.sColonne.empty() && opzioni.aPunti.empty()) {
-        throw UsoErrato("--colonne vuole --punti");
-    }
-    if (opzioni.aRecupero.empty() != (opzioni.nQuadro == 0)) {
-        throw UsoErrato("--recupero e --quadro vanno insieme");
-    }
-    ControllaGruppo(opzioni.nQuadro, 0);
-    for (const std::int32_t nValore : opzioni.aRecupero) {
-        if (std::find(opzioni.aPunti.begin(), opzioni.aPunti.end(), nValore) != opzioni.aPunti.end()) {
-            throw UsoErrato("il " + std::to_string(nValore) + " non può stare tra i punti e nel recupero");
-        }
-    }
-}
-
-void ControllaTratto(const Riga& riga, bool bServe)
-{
-    const std::int32_t nMinimo = bServe ? 1 : 0;
-    if (riga.righe.nDa < nMinimo || riga.righe.nA < nMinimo) {
-        throw UsoErrato("le condizioni si contano da 1");
-    }
-}
-
-void ControllaVedi(const Riga& riga)
-{
-    if (riga.vedi.nDa < 1 || riga.vedi.nQuante < 1) {
-        throw UsoErrato("le colonne si contano da 1");
-    }
-}
-
-void ControllaQuadro(const Riga& riga)
-{
-    const OpzioniQuadro& opzioni = riga.quadro;
-    ControllaGruppo(opzioni.nGruppo, 1);
-    const bool bLimiti = opzioni.nMinimo >= 0 && opzioni.nMassimo >= 0;
-    if (opzioni.bTogli == bLimiti || (!bLimiti && (opzioni.nMinimo >= 0 || opzioni.nMassimo >= 0))) {
-        throw UsoErrato("servono --minimo e --massimo, oppure --togli");
-    }
-    if (opzioni.nMassimo < opzioni.nMinimo || opzioni.nMassimo > kCondizioniMassime) {
-        throw UsoErrato("il minimo non supera il massimo, e il massimo non supera " +
-                        std::to_string(kCondizioniMassime));
-    }
-}
-
-void ControllaColonna(const Riga& riga)
-{
-    if (riga.nClasse < 1 || riga.nClasse > kNumeriColonna) {
-        throw UsoErrato("la classe va da 1 a " + std::to_string(kNumeriColonna));
-    }
-    if (riga.aNumeri.size() != static_cast<std::size_t>(riga.nClasse)) {
-        throw UsoErrato("la classe è " + std::to_string(riga.nClasse) + ", i numeri dati sono " +
-                        std::to_string(riga.aNumeri.size()));
-    }
-    std::set<std::int16_t> visti;
-    for (const std::int16_t n : riga.aNumeri) {
-        if (n < 1 || n > kNumeroMassimo || !visti.insert(n).second) {
-            throw UsoErrato("servono numeri diversi da 1 a 90, non " + std::to_string(n));
-        }
-    }
 }
 
 /// What the library says of a wrong line, in Italian where it is one of the common cases.
@@ -384,24 +297,6 @@ std::string Traduci(const CLI::ParseError& errore)
     return sTesto;
 }
 
-/// What the library cannot see: values beyond their bounds, options that do not go together.
-void Controlla(const CLI::App& programma, const Riga& riga)
-{
-    const std::vector<std::pair<const char*, std::function<void()>>> aControlli{{"misura", [&] { ControllaColonna(riga); }},
-                                                                                {"sviluppa", [&] { ControllaGioco(riga); }},
-                                                                                {"filtra", [&] { ControllaGioco(riga); }},
-                                                                                {"aggiungi", [&] { ControllaAggiungi(riga); }},
-                                                                                {"togli", [&] { ControllaTratto(riga, true); }},
-                                                                                {"salva-condizioni", [&] { ControllaTratto(riga, false); }},
-                                                                                {"quadro", [&] { ControllaQuadro(riga); }},
-                                                                                {"vedi", [&] { ControllaVedi(riga); }}};
-    for (const auto& [sComando, controlla] : aControlli) {
-        if (programma.got_subcommand(sComando)) {
-            controlla();
-        }
-    }
-}
-
 eUscita Interpreta(CLI::App& programma, Riga& riga, int nArgomenti, const char* const* aArgomenti)
 {
     ControllaComando(programma, nArgomenti, aArgomenti);
@@ -416,7 +311,7 @@ eUscita Interpreta(CLI::App& programma, Riga& riga, int nArgomenti, const char* 
     if (!riga.azione) {
         throw UsoErrato("manca il comando");
     }
-    Controlla(programma, riga);
+    ControllaParole(programma.get_subcommands().front()->get_name(), riga);
     return riga.azione();
 }
 

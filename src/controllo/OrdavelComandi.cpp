@@ -2,7 +2,9 @@
 
 #include "ordavel/Ordavel.hpp"
 
+#include "analisi/F_EffettoCond.hpp"
 #include "analisi/F_NavigaSistema.hpp"
+#include "analisi/F_Spoglio.hpp"
 #include "controllo/BarraComandi.hpp"
 #include "controllo/F_VisualizzaColonne.hpp"
 #include "core/ModFunzGeneriche.hpp"
@@ -44,8 +46,8 @@ void Ordavel::Toolbar2_ButtonClick(std::string_view sChiave)
         {"IncrGrid", [](Ordavel& o) { o.VariaLarghezzaColonne(1); }},
         {"DecrGrid", [](Ordavel& o) { o.VariaLarghezzaColonne(-1); }},
         {"Naviga", [](Ordavel& o) { o.PremiNaviga(); }},
-        {"EffettoCondizioni", [](Ordavel&) { NonAncora("F_EffettoCond"); }},
-        {"ConfrontoCondSuCol", [](Ordavel&) { NonAncora("F_Spoglio"); }},
+        {"EffettoCondizioni", [](Ordavel& o) { o.PremiEffetto(); }},
+        {"ConfrontoCondSuCol", [](Ordavel& o) { o.PremiConfronto(); }},
         {"Riduzione", [](Ordavel&) { NonAncora("F_Riduzione"); }},
         {"StampaSk", [](Ordavel& o) { o.PremiStampa(); }},
         {"puntimassivi", [](Ordavel& o) { o.ApplicaImpostaPunti(); }},
@@ -200,6 +202,19 @@ void Ordavel::PremiNaviga()
     }
     m_Piattaforma.MostraAccanto(*m_NavigaSistema);
     m_NavigaSistema->LoadTree();
+}
+
+void Ordavel::PremiEffetto()
+{
+    F_EffettoCond dialogo(*m_Ospite);
+    dialogo.LoadList();
+    m_Piattaforma.MostraModale(dialogo);
+}
+
+void Ordavel::PremiConfronto()
+{
+    F_Spoglio dialogo(*m_Ospite);
+    m_Piattaforma.MostraModale(dialogo);
 }
 
 void Ordavel::PremiStampa()

@@ -6,11 +6,13 @@
 #include "core/ModGestore.hpp"
 #include "core/ModNumeri.hpp"
 #include "core/ModTesti.hpp"
+#include "editor/F_ScegliRuota.hpp"
 #include "emulatore/ModEmulatore.hpp"
 #include "motore/ModIntegrali.hpp"
 #include "motore/ModSistemiCond.hpp"
 #include "persistenza/ModFileColonne.hpp"
 
+#include <array>
 #include <cmath>
 #include <filesystem>
 #include <system_error>
@@ -114,6 +116,7 @@ bool Ordavel::GestSviluppo()
     if (!KillFile(m_FileColonne, m_Piattaforma)) {
         return false;
     }
+    PreparaEmulatore();
     const CorsaInVista corsa(*this);
     m_Piattaforma.LasciaEventi();
     m_ColonneDaFiltrare =
@@ -140,6 +143,7 @@ bool Ordavel::GestSviluppoDaFileColonne(const std::string& sFileColonne)
     if (!(m_ColonneDaFiltrare > 0) || !VerificaCoerenzaLink()) {
         return false;
     }
+    PreparaEmulatore();
     const CorsaInVista corsa(*this);
     m_Piattaforma.LasciaEventi();
     const float nInizio = m_Piattaforma.SecondiDaMezzanotte();
@@ -170,10 +174,45 @@ void Ordavel::MostraFineSviluppo(float nInizio)
                                    .pulsanti = ePulsanti::ok});
 }
 
+/// Asks for the wheel, in a dialog that has no way out, since the others of its kind matter to "Lotto" alone.
+std::int16_t Ordavel::ChiediColonneDaEmulare()
+{
+    F_ScegliRuota dialogo(*m_Ospite);
+    m_Piattaforma.MostraModale(dialogo);
+    return dialogo.Ruota();
+}
+
+/// The archive of the selected game.
+const std::string& Ordavel::FileBdGioco() const
+{
+    const std::array<const std::string*, 5> aFile{&m_FileBdLotto, &m_FileBd10Lotto, &m_FileBd10Lotto5M,
+                                                  &m_FileBdSE, &m_FileBdWF};
+    return *aFile.at(static_cast<std::size_t>(GetIdCmbTipoGioco()));
+}
+
+/// Builds the emulated draws of a system that asks for them. When that cannot be, older ones stay.
+void Ordavel::PreparaEmulatore()
+{
+    if (!IsCondizionePresente("Emulatore")) {
+        return;
+    }
+    const std::int16_t nRuota = ChiediColonneDaEmulare();
+    if (!CreaDatiEmulatore(m_PercorsoTemp + "Emulatore.dat", GetQuantitaColDaEmulareFromGrid(), nRuota,
+                           GetIdCmbTipoGiocoString(), FileBdGioco(), m_Piattaforma)) {
+        m_Piattaforma.MostraMessaggio({.icona = eIcona::nessuna,
+                                       .sTitolo = {},
+                                       .sTesto = "Filtro emulatore non creato",
+                                       .pulsanti = ePulsanti::ok});
+    }
+}
+
 void Ordavel::CaricaEmulatore()
 {
-    m_Stato.aEmulatore.assign(1, RigaEmulatore{});
-    LeggiFileEmulatore(m_PercorsoTemp + "Emulatore.dat", m_Stato.aEmulatore);
+    m_Stato.aEmulatore = {};
+    std::vector<RigaEmulatore> aRighe(1);
+    LeggiFileEmulatore(m_PercorsoTemp + "Emulatore.dat", aRighe);
+    m_Stato.aEmulatore = RigheEmulatore(std::move(aRighe));
+    m_Stato.bEmulatoreCaricato = true;
 }
 
 void Ordavel::PreparaCorsa()

@@ -24,6 +24,13 @@ public:
     {
         return m_Ordavel.PercorsoSalvaColonne();
     }
+    [[nodiscard]] double ColonneIntegrali() const override { return m_Ordavel.ColonneIntegrali(); }
+    [[nodiscard]] const Lista& GetLbQuadroRec() override { return m_Ordavel.GetLbQuadroRec(); }
+    [[nodiscard]] const StatoSviluppo& UltimoSviluppo() const override { return m_Ordavel.UltimoSviluppo(); }
+    bool GetColonneSviluppo(std::vector<Colonna>& aRetCol) override
+    {
+        return m_Ordavel.GetColonneSviluppo(aRetCol);
+    }
     [[nodiscard]] std::string GetColonnaSviluppo(std::int32_t nId) override
     {
         return m_Ordavel.GetColonnaSviluppo(nId);

@@ -13,10 +13,12 @@ namespace ordavel {
 
 /// One game.
 struct ProfiloGioco {
-    std::string_view sNome;            ///< entry of the list of games
-    std::int16_t nClassePreset;        ///< class selected when the game is chosen
-    std::string_view sArchivio;        ///< property that holds the path of its draw archive
-    std::int32_t nByteEstrazione;      ///< length of a record of that archive
+    std::string_view sNome;         ///< entry of the list of games
+    std::int16_t nClassePreset;     ///< class selected when the game is chosen
+    std::string_view sArchivio;     ///< property that holds the path of its draw archive
+    std::int32_t nByteEstrazione;   ///< length of a record of that archive
+    std::int32_t nNumeriEstrazione; ///< numbers of a record
+    std::int32_t nNumeriEmulati; ///< numbers of a draw that the emulator looks at; of one wheel for "Lotto"
     std::string_view sChiaveEmulatore; ///< name by which the emulator builder knows it
 };
 
@@ -25,6 +27,9 @@ struct ProfiloGioco {
 
 /// The game of a name, without regard to case; nullptr when there is none.
 [[nodiscard]] const ProfiloGioco* TrovaGioco(std::string_view sNome) noexcept;
+
+/// The wheels of "Lotto", in the order of its records.
+[[nodiscard]] std::span<const std::string_view> Ruote() noexcept;
 
 /// Entries of the list of classes, "2" to "10".
 [[nodiscard]] std::span<const std::string_view> VociClasse() noexcept;

@@ -4,6 +4,7 @@
 
 #include "ordavel/GrigliaCondizioni.hpp"
 #include "ordavel/Piattaforma.hpp"
+#include "ordavel/StatoSviluppo.hpp"
 
 namespace ordavel {
 
@@ -25,6 +26,14 @@ public:
     /// Folders of systems and of column files.
     [[nodiscard]] virtual const std::string& DirSistemi() const = 0;
     [[nodiscard]] virtual const std::string& PercorsoSalvaColonne() const = 0;
+    /// Columns of the selected class over the picks.
+    [[nodiscard]] virtual double ColonneIntegrali() const = 0;
+    /// The recovery board.
+    [[nodiscard]] virtual const Lista& GetLbQuadroRec() = 0;
+    /// What the last run compiled and counted.
+    [[nodiscard]] virtual const StatoSviluppo& UltimoSviluppo() const = 0;
+    /// All columns of the working file; one record of zeros when there is none.
+    virtual bool GetColonneSviluppo(std::vector<Colonna>& aRetCol) = 0;
     /// A column of the working file as text, from 1; empty behind the end.
     [[nodiscard]] virtual std::string GetColonnaSviluppo(std::int32_t nId) = 0;
     /// Selects a condition and brings it into view.

@@ -2,7 +2,7 @@
 
 #include "motore/ModVerifica.hpp"
 
-#include "calcoli/ModCifre.hpp"
+#include "calcoli/ModEmulazione.hpp"
 #include "condizioni/ModCatalogo.hpp"
 #include "motore/ModMetriche.hpp"
 

@@ -1,6 +1,6 @@
 // ClsOrdinaLv.cpp - sorts a report list by one of its columns.
 
-#include "controllo/ClsOrdinaLv.hpp"
+#include "analisi/ClsOrdinaLv.hpp"
 
 #include "core/ModNumeri.hpp"
 #include "core/ModOrdina.hpp"
@@ -69,7 +69,15 @@ void ClsOrdinaLv::Clic(Elenco& oLista, std::int16_t nIdCol, eTipoOrdine tipo)
 {
     m_nTipoSort = nIdCol == m_nCol ? static_cast<std::int16_t>(1 - m_nTipoSort) : std::int16_t{1};
     m_nCol = nIdCol;
-    OrdinaLv(oLista, nIdCol, tipo, m_nTipoSort);
+    m_Tipo = tipo;
+    Riordina(oLista);
+}
+
+void ClsOrdinaLv::Riordina(Elenco& oLista)
+{
+    if (m_nCol != 0) {
+        OrdinaLv(oLista, m_nCol, m_Tipo, m_nTipoSort);
+    }
 }
 
 void ClsOrdinaLv::OrdinaLv(Elenco& oLista, std::int16_t nIdCol, eTipoOrdine tipo, std::int16_t& nTipoSort)

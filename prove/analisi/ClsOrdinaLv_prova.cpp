@@ -1,6 +1,6 @@
 // ClsOrdinaLv_prova.cpp - a report list sorted by a heading.
 
-#include "controllo/ClsOrdinaLv.hpp"
+#include "analisi/ClsOrdinaLv.hpp"
 
 #include "comune/Fallimenti.hpp"
 

@@ -16,6 +16,10 @@ public:
     /// Fails    as OrdinaLv
     void Clic(Elenco& oLista, std::int16_t nIdCol, eTipoOrdine tipo);
 
+    /// Sorts lines that are new as the last click has asked; before any click nothing happens.
+    /// Fails    as OrdinaLv
+    void Riordina(Elenco& oLista);
+
     /// Sorts the lines. As text they are compared byte by byte. As numbers, every "." is taken out, "," is the
     /// decimal point, and four decimals count; a text that is no number is 0. What a line lacks is empty. Lines
     /// that are equal do not keep their order. Fewer than two lines stay as they are.
@@ -27,6 +31,7 @@ public:
 
 private:
     std::int16_t m_nCol = 0;
+    eTipoOrdine m_Tipo = eTipoOrdine::testo;
     std::int16_t m_nTipoSort = 1;
 };
 
