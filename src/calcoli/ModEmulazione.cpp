@@ -116,7 +116,12 @@ void NucleoComune(std::int16_t nClasse, const Colonna& colonna, const RigheEmula
     ContaClasse(nClasse, colonna, righe, aContatori);
 }
 
+// Both compilers prefer half of the width that this form exists for, and each is told otherwise in its own words.
+#    if defined(__clang__)
+[[gnu::target("avx512f,avx512vl,avx512bw,avx512vpopcntdq,popcnt"), clang::min_vector_width(512)]] void
+#    else
 [[gnu::target("avx512f,avx512vl,avx512bw,avx512vpopcntdq,popcnt,prefer-vector-width=512")]] void
+#    endif
 NucleoAvx512(std::int16_t nClasse, const Colonna& colonna, const RigheEmulatore& righe,
              ContatoriEmulatore& aContatori)
 {
