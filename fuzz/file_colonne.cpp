@@ -1,5 +1,6 @@
 // file_colonne.cpp - any bytes as a file: its columns are looked for, taken out, read, and put back.
 
+#include "PathProvvisorio.hpp"
 #include "Pretende.hpp"
 #include "persistenza/ModFileColonne.hpp"
 #include "persistenza/ModFileSistema.hpp"
@@ -7,38 +8,15 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <filesystem>
 #include <span>
 #include <string>
-#include <system_error>
-#include <unistd.h>
 #include <vector>
 
 namespace {
 
 using namespace ordavel;
+using fuzz::PathProvvisorio;
 using fuzz::Pretende;
-
-/// The path of a file that is gone at the end.
-class PathProvvisorio {
-public:
-    explicit PathProvvisorio(const std::string& sNome)
-        : m_Path(std::filesystem::temp_directory_path() /
-                 ("ordavel-fuzz-" + std::to_string(getpid()) + "-" + sNome))
-    {}
-    PathProvvisorio(const PathProvvisorio&) = delete;
-    PathProvvisorio& operator=(const PathProvvisorio&) = delete;
-    ~PathProvvisorio()
-    {
-        std::error_code ignorato;
-        std::filesystem::remove(m_Path, ignorato);
-    }
-
-    [[nodiscard]] std::string Testo() const { return m_Path.string(); }
-
-private:
-    std::filesystem::path m_Path;
-};
 
 std::vector<std::byte> Contenuto(FileBinario& file)
 {

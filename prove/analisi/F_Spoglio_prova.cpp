@@ -78,6 +78,7 @@ TEST_F(Spoglio, SiMostraUnaPaginaAllaVolta)
 TEST_F(Spoglio, INumeriStannoDaUnoANovanta)
 {
     EXPECT_THAT(Verifica("5.12.30"), IsEmpty());
+    EXPECT_THAT(Verifica("1.90"), IsEmpty());
     EXPECT_THAT(Verifica("5,12,30"), IsEmpty()) << "one piece that begins with 5";
     for (const char* sTesto : {"", "0", "91", "5.0", "5.91.7", "x", "5.", "-3"}) {
         EXPECT_THAT(Verifica(sTesto), ElementsAre(Avviso(kNumeri))) << sTesto;
@@ -115,6 +116,34 @@ TEST_F(Spoglio, ConLeVirgoleSiGiocaIlPrimoNumero)
     EXPECT_THAT(Testi(dialogo.ListView1), ElementsAre("1|1", "2|1", "3|1"));
 }
 
+TEST_F(Spoglio, IPuntiContanoIPostiELaClasseDiceQuanti)
+{
+    // A number that a column has twice scores twice; what stands behind the class does not.
+    m_Ospite.aColonneSviluppo = {ColonnaDi({5, 5, 1, 2, 3, 12}).colonna, ColonnaDi({1, 2, 3, 4, 12}).colonna};
+    F_Spoglio dialogo(m_Ospite);
+    dialogo.Text1.Testo.Poni("5.5.12.12");
+    dialogo.VerificaVincite(1);
+    EXPECT_THAT(Testi(dialogo.ListView1), ElementsAre("1|2", "2|1"));
+}
+
+TEST_F(Spoglio, IlNovantaSiGiocaEUnNumeroConDecimaliNo)
+{
+    m_Ospite.aColonneSviluppo = {ColonnaDi({86, 87, 88, 89, 90}).colonna};
+    F_Spoglio dialogo(m_Ospite);
+    dialogo.Text1.Testo.Poni("90.885e-1");
+    dialogo.VerificaVincite(1);
+    EXPECT_THAT(Testi(dialogo.ListView1), ElementsAre("1|1"));
+}
+
+TEST_F(Spoglio, UnFallimentoDelControlloHaIlSuoNome)
+{
+    F_Spoglio dialogo(m_Ospite);
+    dialogo.Text1.Testo.Poni("5");
+    dialogo.VerificaVincite(-1);
+    EXPECT_THAT(m_Ospite.desktop.Messaggi(),
+                ElementsAre(Fallimento("F_Spoglio.VerificaVincite", Errore(eErrore::indice))));
+}
+
 TEST_F(Spoglio, UnMinimoSopraLaClasseNonRiepilogaNulla)
 {
     F_Spoglio dialogo(m_Ospite);
@@ -145,6 +174,13 @@ TEST_F(Spoglio, LOrdineSceltoRestaAlControlloDopo)
     EXPECT_THAT(Testi(dialogo.ListView1), ElementsAre("1|3", "3|2", "2|1"));
     dialogo.VerificaVincite(2);
     EXPECT_THAT(Testi(dialogo.ListView1), ElementsAre("1|3", "3|2"));
+    dialogo.ListView1_ColumnClick(3);
+    dialogo.VerificaVincite(2);
+    EXPECT_THAT(Testi(dialogo.ListView1), ElementsAre("3|2", "1|3"));
+    dialogo.ListView1_ColumnClick(2);
+    dialogo.ListView1_ColumnClick(2);
+    dialogo.VerificaVincite(2);
+    EXPECT_THAT(Testi(dialogo.ListView1), ElementsAre("3|2", "1|3")) << "05 12 31 before 05 12 30";
 }
 
 TEST_F(Spoglio, IlConfrontoLeggeLeVirgole)
@@ -157,6 +193,70 @@ TEST_F(Spoglio, IlConfrontoLeggeLeVirgole)
     dialogo.Text1.Testo.Poni("5.12.30");
     dialogo.GestioneConfrontoCond();
     EXPECT_EQ(dialogo.ListView2.Righe.Valore().at(0).aSotto[3], "0") << "one number, 5.12 stored as 5";
+}
+
+TEST_F(Spoglio, IlConfrontoDiceCheCosaTaglia)
+{
+    m_Ospite.griglia.Riga(1) = {"Ampiezza", "", "1-89", "-", " "};
+    m_Ospite.griglia.Riga(2) = {"Ampiezza", "", "1-2", "-", " "};
+    F_Spoglio dialogo(m_Ospite);
+    EXPECT_FALSE(dialogo.Tagli.has_value());
+    dialogo.Text1.Testo.Poni("5,12,30");
+    dialogo.GestioneConfrontoCond();
+    EXPECT_EQ(dialogo.Tagli, std::vector<std::size_t>{1});
+    dialogo.Text1.Testo.Poni("300");
+    dialogo.GestioneConfrontoCond();
+    EXPECT_FALSE(dialogo.Tagli.has_value()) << "the comparison failed";
+    EXPECT_EQ(m_Ospite.desktop.Messaggi().size(), std::size_t{1});
+}
+
+TEST_F(Spoglio, UnNumeroCheNonStaInUnByteFallisce)
+{
+    F_Spoglio dialogo(m_Ospite);
+    for (const char* sTesto : {"1,256", "-1"}) {
+        dialogo.Text1.Testo.Poni(sTesto);
+        dialogo.GestioneConfrontoCond();
+    }
+    const Messaggio troppo = Fallimento("F_Spoglio.GestioneConfrontoCond", Errore(eErrore::overflow));
+    EXPECT_THAT(m_Ospite.desktop.Messaggi(), ElementsAre(troppo, troppo));
+}
+
+TEST_F(Spoglio, INumeriDelConfrontoNonSiOrdinano)
+{
+    m_Ospite.griglia.Riga(1) = {"Posizioni", "Casella :\r\n1", "1-90", "-", " "};
+    F_Spoglio dialogo(m_Ospite);
+    dialogo.Text1.Testo.Poni("30,5,12.5");
+    dialogo.GestioneConfrontoCond();
+    EXPECT_EQ(dialogo.ListView2.Righe.Valore().at(0).aSotto[3], "30");
+    m_Ospite.griglia.Riga(1).sParametri = "Casella :\r\n3";
+    dialogo.GestioneConfrontoCond();
+    EXPECT_EQ(dialogo.ListView2.Righe.Valore().at(0).aSotto[3], "12") << "12.5 is nearest to an even 12";
+}
+
+TEST_F(Spoglio, SenzaEstrazioniCaricateIlConfrontoDiUnEmulatoreFallisce)
+{
+    m_Ospite.griglia.Riga(1) = {"Emulatore", "[1]\r\nP0) 0 - 9\r\n", "", "", ""};
+    F_Spoglio dialogo(m_Ospite);
+    dialogo.Text1.Testo.Poni("5");
+    dialogo.GestioneConfrontoCond();
+    EXPECT_THAT(m_Ospite.desktop.Messaggi(),
+                ElementsAre(Fallimento("F_Spoglio.GestioneConfrontoCond", Errore(eErrore::indice))));
+    m_Ospite.stato.bEmulatoreCaricato = true;
+    dialogo.GestioneConfrontoCond();
+    EXPECT_EQ(dialogo.ListView2.Righe.Valore().size(), std::size_t{1});
+}
+
+TEST_F(Spoglio, IlConfrontoUsaLeEstrazioniDellUltimaCorsa)
+{
+    std::vector<RigaEmulatore> aRighe(2);
+    aRighe[0](5) = aRighe[1](5) = 1;
+    m_Ospite.stato.aEmulatore = RigheEmulatore(aRighe);
+    m_Ospite.stato.bEmulatoreCaricato = true;
+    m_Ospite.griglia.Riga(1) = {"Emulatore", "[2]\r\nP0) 0 - 0\r\nP1) 2 - 2\r\n", "", "", ""};
+    F_Spoglio dialogo(m_Ospite);
+    dialogo.Text1.Testo.Poni("5");
+    dialogo.GestioneConfrontoCond();
+    EXPECT_EQ(dialogo.ListView2.Righe.Valore().at(0).aSotto.back(), "Si");
 }
 
 TEST_F(Spoglio, PiuDiVentiNumeriConLeVirgoleFallisconoColLoroNome)

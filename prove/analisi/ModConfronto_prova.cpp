@@ -14,12 +14,13 @@ namespace {
 using prove::ColonnaDi;
 using prove::NumeroErrore;
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 class Confronto : public testing::Test {
 protected:
     void Confronta(const std::vector<int>& aNumeri)
     {
-        ConfrontaCondizioni(ColonnaDi(aNumeri).colonna, m_Griglia, m_aQuadro, m_Stato, m_Lista);
+        m_aTagli = ConfrontaCondizioni(ColonnaDi(aNumeri).colonna, m_Griglia, m_aQuadro, m_Stato, m_Lista);
     }
 
     [[nodiscard]] std::vector<std::string> Celle(std::size_t nRiga) const
@@ -31,15 +32,52 @@ protected:
     std::vector<std::string> m_aQuadro;
     StatoSviluppo m_Stato;
     Elenco m_Lista;
+    std::vector<std::size_t> m_aTagli;
 };
 
-TEST(NomeCondizione, IVentiEITrentacinqueNonHannoNome)
+TEST(NomeCondizione, OgniTipoHaIlSuoNomeEAlcuniNessuno)
 {
-    EXPECT_EQ(NomeCondizione(TipoCondizione::peso), "Peso");
-    EXPECT_EQ(NomeCondizione(TipoCondizione::linkClose), "LinkClose");
-    EXPECT_EQ(NomeCondizione(TipoCondizione::sommaComplessiva), "SommaComplessiva");
-    for (const int nTipo : {0, 20, 21, 22, 23, 24, 25, 26, 35, 36, 37, 38}) {
-        EXPECT_EQ(NomeCondizione(static_cast<TipoCondizione>(nTipo)), "") << nTipo;
+    const std::vector<std::string> aNomi{"",
+                                         "LinkOpen",
+                                         "LinkClose",
+                                         "Punti Col.",
+                                         "Pari-Dispari",
+                                         "Peso",
+                                         "Resto",
+                                         "Ampiezza",
+                                         "Vortice",
+                                         "Simmetrie",
+                                         "Consecutivi",
+                                         "InterruzioniPD",
+                                         "Baricentro",
+                                         "Distanza Minima",
+                                         "Distanza Massima",
+                                         "Posizioni",
+                                         "Ponte",
+                                         "Sequenze",
+                                         "Paralleli",
+                                         "GruppiDiConsecutivi",
+                                         "",
+                                         "",
+                                         "",
+                                         "",
+                                         "",
+                                         "",
+                                         "",
+                                         "SimmetrieNum",
+                                         "ParalleliNum",
+                                         "Fulcro",
+                                         "SommaCadenze",
+                                         "SommaDecine",
+                                         "SommaFigure",
+                                         "SommaNumeretti",
+                                         "SommaComplessiva",
+                                         "",
+                                         "",
+                                         "",
+                                         ""};
+    for (std::size_t nTipo = 0; nTipo < aNomi.size(); ++nTipo) {
+        EXPECT_EQ(NomeCondizione(static_cast<TipoCondizione>(nTipo)), aNomi[nTipo]) << nTipo;
     }
 }
 
@@ -68,7 +106,8 @@ TEST_F(Confronto, IColoriDiconoLEsito)
     m_aQuadro[0] = "1,1,-1";
     m_Griglia.Riga(1) = {"Consecutivi", "", "2", "", ""};
     m_Griglia.Riga(2) = {"Consecutivi", "", "0", "2", "1"};
-    m_Griglia.Riga(3) = {"Consecutivi", "", "0", "", ""};
+    m_Griglia.Riga(3) = {"Consecutivi", "", "0", "2", "2"};
+    m_Griglia.Riga(4) = {"Consecutivi", "", "0", "", ""};
     Confronta({1, 2, 3, 40, 60});
     std::vector<Colore> aColori;
     std::vector<std::string> aEsiti;
@@ -77,11 +116,8 @@ TEST_F(Confronto, IColoriDiconoLEsito)
         aEsiti.push_back(riga.aSotto.back());
         EXPECT_EQ(riga.nColonnaColorata, std::size_t{4});
     }
-    EXPECT_EQ(aEsiti[0], "Si");
-    EXPECT_EQ(aColori[0], kColoreSuperata);
-    EXPECT_EQ(aEsiti[1], "Si");
-    EXPECT_EQ(aEsiti[2], "No");
-    EXPECT_EQ(aColori[2], kColoreScartata);
+    EXPECT_THAT(aEsiti, ElementsAre("Si", "Si", "Si", "No"));
+    EXPECT_THAT(aColori, ElementsAre(65280, 65280, 65535, 255)) << "green, recovered, recoverable, failed";
 }
 
 TEST_F(Confronto, ILinkHannoSoloIlNome)
@@ -109,12 +145,79 @@ TEST_F(Confronto, SenzaPuntiCEUnTratto)
     EXPECT_THAT(Celle(0), ElementsAre("Peso", "-", "-", "1", "No"));
 }
 
+TEST_F(Confronto, UnTrattoConUnSoloLimiteDiversoDaZeroSiVede)
+{
+    m_Griglia.Riga(1) = {"Peso", "Caselle :\r\n1", "0-10", "5-0", "1"};
+    Confronta({1, 2, 3, 40, 60});
+    EXPECT_THAT(Celle(0), ElementsAre("Peso", "0-10", "5-0", "1", "Si"));
+}
+
 TEST_F(Confronto, UnEmulatoreSenzaEstrazioniFallisce)
 {
     m_Griglia.Riga(1) = {"Emulatore", "[1]\r\nP0) 0 - 9\r\n", "", "", ""};
     EXPECT_EQ(NumeroErrore([&] { Confronta({1, 2, 3, 40, 60}); }), 9);
     m_Stato.bEmulatoreCaricato = true;
     EXPECT_EQ(NumeroErrore([&] { Confronta({1, 2, 3, 40, 60}); }), std::nullopt);
+}
+
+TEST_F(Confronto, TaglianoLeCondizioniNonSuperateFuoriDaiLink)
+{
+    m_aQuadro.assign(20, "-1,-1,-0");
+    m_Griglia.Riga(1) = {"Consecutivi", "", "2", "", ""};
+    m_Griglia.Riga(2) = {"Consecutivi", "", "0", "2", "1"};
+    m_Griglia.Riga(3) = {"Ampiezza", "", "1-10", "-", " "};
+    Confronta({1, 2, 3, 40, 60});
+    EXPECT_THAT(m_aTagli, ElementsAre(1, 2)) << "the recoverable one is not recovered";
+    m_aQuadro[0] = "1,1,-1";
+    Confronta({1, 2, 3, 40, 60});
+    EXPECT_THAT(m_aTagli, ElementsAre(2));
+    m_Griglia.Riga(3).sPunti = "1-89";
+    Confronta({1, 2, 3, 40, 60});
+    EXPECT_THAT(m_aTagli, IsEmpty());
+}
+
+TEST_F(Confronto, UnLinkTagliaTuttoInsieme)
+{
+    m_Griglia.Riga(1) = {"LinkOpen", "", "", "", ""};
+    m_Griglia.Riga(2) = {"Consecutivi", "", "2", "", ""};
+    m_Griglia.Riga(3) = {"Consecutivi", "", "0", "", ""};
+    m_Griglia.Riga(4) = {"LinkClose", "", "1", "", ""};
+    m_Griglia.Riga(5) = {"Consecutivi", "", "0", "", ""};
+    Confronta({1, 2, 3, 40, 60});
+    EXPECT_THAT(m_aTagli, ElementsAre(4)) << "one of two is what the link asks for";
+    m_Griglia.Riga(3).sPunti = "2";
+    Confronta({1, 2, 3, 40, 60});
+    EXPECT_THAT(m_aTagli, ElementsAre(3, 4)) << "both are one too many";
+    m_Griglia.Riga(5).sPunti = "2";
+    Confronta({1, 2, 3, 40, 60});
+    EXPECT_THAT(m_aTagli, ElementsAre(3)) << "although every condition holds";
+}
+
+TEST_F(Confronto, DeiLinkUnoDentroLAltroParlaQuelloDiFuori)
+{
+    m_Griglia.Riga(1) = {"Consecutivi", "", "0", "", ""};
+    m_Griglia.Riga(2) = {"LinkOpen", "", "", "", ""};
+    m_Griglia.Riga(3) = {"LinkOpen", "", "", "", ""};
+    m_Griglia.Riga(4) = {"Consecutivi", "", "0", "", ""};
+    m_Griglia.Riga(5) = {"LinkClose", "", "2", "", ""};
+    m_Griglia.Riga(6) = {"Consecutivi", "", "2", "", ""};
+    m_Griglia.Riga(7) = {"LinkClose", "", "1", "", ""};
+    m_Griglia.Riga(8) = {"Consecutivi", "", "0", "", ""};
+    Confronta({1, 2, 3, 40, 60});
+    EXPECT_THAT(m_aTagli, ElementsAre(0, 6, 7)) << "the outer link is judged by the list of the inner one";
+    m_Griglia.Riga(5).sPunti = "1";
+    Confronta({1, 2, 3, 40, 60});
+    EXPECT_THAT(m_aTagli, ElementsAre(0, 7));
+}
+
+TEST_F(Confronto, LinkCheNonSiChiudonoNonTagliano)
+{
+    m_Griglia.Riga(1) = {"Consecutivi", "", "0", "", ""};
+    m_Griglia.Riga(2) = {"LinkClose", "", "1", "", ""};
+    m_Griglia.Riga(3) = {"LinkOpen", "", "", "", ""};
+    m_Griglia.Riga(4) = {"Consecutivi", "", "0", "", ""};
+    Confronta({1, 2, 3, 40, 60});
+    EXPECT_THAT(m_aTagli, ElementsAre(0, 3));
 }
 
 } // namespace

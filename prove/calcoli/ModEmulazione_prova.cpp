@@ -57,6 +57,34 @@ TEST(ModEmulazione, OgniQuantitaDiRigheAiConfiniDelleParole)
     }
 }
 
+TEST(ModEmulazione, TreEstrazioniELaColonnaUnoCinque)
+{
+    std::vector<RigaEmulatore> aRighe(3);
+    aRighe[0](1) = aRighe[0](2) = aRighe[0](3) = 1;
+    aRighe[1](4) = aRighe[1](5) = aRighe[1](6) = 1;
+    aRighe[2](1) = aRighe[2](5) = aRighe[2](7) = 1;
+    ContatoriEmulatore aAttesi;
+    aAttesi(1) = 2;
+    aAttesi(2) = 1;
+    EXPECT_EQ(CalcolaEmulatore(2, prove::ColonnaDi({1, 5}).colonna, RigheEmulatore(aRighe)), aAttesi);
+}
+
+TEST(ModEmulazione, OgniClassePuoEssereColpitaPerIntero)
+{
+    std::vector<RigaEmulatore> aRighe(1);
+    aRighe[0].aElementi.fill(1);
+    const RigheEmulatore insiemi(aRighe);
+    Colonna colonna;
+    for (std::int16_t n = 1; n <= kNumeriColonna; ++n) {
+        colonna[n] = static_cast<std::uint8_t>(n);
+    }
+    for (std::int16_t nClasse = 0; nClasse <= kNumeriColonna; ++nClasse) {
+        ContatoriEmulatore aAttesi;
+        aAttesi(nClasse) = 1;
+        EXPECT_EQ(CalcolaEmulatore(nClasse, colonna, insiemi), aAttesi) << nClasse;
+    }
+}
+
 TEST(ModEmulazione, UnNumeroDueVolteColpisceDueVolte)
 {
     std::vector<RigaEmulatore> aRighe(1);

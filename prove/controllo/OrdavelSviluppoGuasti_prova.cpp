@@ -145,9 +145,14 @@ TEST_F(OrdavelSviluppoGuasti, DopoUnaCorsaFallitaSeNeFaUnAltra)
 
 TEST_F(OrdavelSviluppoGuasti, UnFileDEmulatoreSenzaRigheFallisceEIlPannelloSiChiude)
 {
-    prove::ScriviFile(Temp("Emulatore.dat"), "");
     Pronostico(3, 1, 4);
+    prove::ScriviFile(Temp("Emulatore.dat"), std::string(91 * 2, '\1'));
+    Sviluppa();
+    EXPECT_EQ(sistema.UltimoSviluppo().aEmulatore.Righe().size(), std::size_t{2});
+    prove::ScriviFile(Temp("Emulatore.dat"), "");
     EXPECT_EQ(NumeroErrore([&] { sistema.GestSviluppo(); }), 9);
+    EXPECT_EQ(sistema.UltimoSviluppo().aEmulatore.Righe(), std::vector<RigaEmulatore>(1))
+        << "draws of an earlier run are gone";
     EXPECT_EQ(NumeroErrore([&] { sistema.GestSviluppoDaFileColonne(Temp("Emulatore.dat")); }), std::nullopt);
     ExpectFermo();
     std::filesystem::remove(Temp("Emulatore.dat"));

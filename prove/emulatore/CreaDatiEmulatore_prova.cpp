@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <set>
 
 namespace ordavel {
@@ -112,7 +113,31 @@ TEST_F(CreaDati, UnaColonnaDiTroppoLasciaIlFileDiPrima)
 TEST_F(CreaDati, SenzaArchivioNonSiCrea)
 {
     EXPECT_FALSE(Crea("Lotto", 1));
-    EXPECT_TRUE(Crea("Lotto", 1) || LeggiFile(m_sFile).empty());
+    ScriviFile(m_sArchivio, "");
+    EXPECT_FALSE(Crea("Lotto", 1));
+    EXPECT_FALSE(std::filesystem::exists(m_sFile));
+}
+
+TEST_F(CreaDati, UnaLunghezzaCheNonTornaSiArrotondaAiPari)
+{
+    // Numbers 1 to 6 in every draw; half a record has none of them, three quarters have the first one.
+    const std::string sEstrazione = std::string(12, '\0') + "\1\2\3\4\5\6";
+    const auto Quante = [&](std::size_t nByte) {
+        ScriviFile(m_sArchivio, (sEstrazione + sEstrazione + sEstrazione).substr(0, nByte));
+        std::int16_t nQuante = 0;
+        while (Crea("SuperEnalotto", static_cast<std::int16_t>(nQuante + 1))) {
+            ++nQuante;
+        }
+        return nQuante;
+    };
+    EXPECT_EQ(Quante(8), 0);
+    EXPECT_EQ(Quante(9), 0) << "0.5 is nearest to an even 0";
+    EXPECT_EQ(Quante(26), 1);
+    EXPECT_EQ(Quante(27), 2) << "1.5 is nearest to an even 2";
+    EXPECT_EQ(Righe(), (std::vector<std::set<int>>{{1, 2, 3, 4, 5, 6}, {}}));
+    EXPECT_EQ(Quante(31), 2);
+    EXPECT_EQ(Righe(), (std::vector<std::set<int>>{{1, 2, 3, 4, 5, 6}, {1}})) << "as far as it goes";
+    EXPECT_EQ(Quante(45), 2) << "2.5 is nearest to an even 2";
 }
 
 TEST_F(CreaDati, LoZeroNonSegnaNulla)
@@ -122,14 +147,39 @@ TEST_F(CreaDati, LoZeroNonSegnaNulla)
     EXPECT_EQ(Righe(), (std::vector<std::set<int>>{{}}));
 }
 
-TEST_F(CreaDati, UnNumeroOltreNovantaEUnaRuotaCheNonCEFalliscono)
+TEST_F(CreaDati, UnNumeroOltreNovantaFallisceEDiceQualeArchivio)
 {
-    ScriviFile(m_sArchivio, std::string(67, '\xFF'));
-    EXPECT_EQ(NumeroErrore([&] { (void)Crea("Lotto", 1); }), 9);
-    Archivio("Lotto", 0);
-    for (const std::int16_t nRuota : {std::int16_t{0}, std::int16_t{12}}) {
+    ScriviFile(m_sFile, "di prima");
+    for (const char nNumero : {'\x5B', '\xFF'}) {
+        ScriviFile(m_sArchivio, std::string(12, '\0') + std::string(6, nNumero));
+        try {
+            (void)Crea("SuperEnalotto", 1);
+            ADD_FAILURE() << "nothing was thrown";
+        } catch (const Errore& errore) {
+            EXPECT_EQ(errore.Numero(), eErrore::indice);
+            EXPECT_NE(TestoFallimento(errore).find(m_sArchivio), std::string::npos);
+        }
+    }
+    ScriviFile(m_sArchivio, std::string(12, '\0') + std::string(6, '\x5A'));
+    EXPECT_EQ(LeggiFile(m_sFile), "di prima");
+    EXPECT_TRUE(Crea("SuperEnalotto", 1)) << "90 is a number";
+}
+
+TEST_F(CreaDati, UnaRuotaCheNonCEFallisce)
+{
+    Archivio("Lotto", 1);
+    for (const std::int16_t nRuota : {std::int16_t{-1}, std::int16_t{0}, std::int16_t{12}}) {
         EXPECT_EQ(NumeroErrore([&] { (void)Crea("Lotto", 1, nRuota); }), 9);
     }
+}
+
+TEST_F(CreaDati, UnFileDiPrimaCheNonSiCancellaSiDiceEResta)
+{
+    Archivio("SuperEnalotto", 1);
+    std::filesystem::create_directories(m_sFile + "/piena");
+    EXPECT_TRUE(Crea("SuperEnalotto", 1));
+    ASSERT_EQ(m_Piattaforma.Messaggi().size(), std::size_t{1});
+    EXPECT_TRUE(std::filesystem::exists(m_sFile + "/piena"));
 }
 
 } // namespace

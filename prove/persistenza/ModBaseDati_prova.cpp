@@ -62,6 +62,40 @@ TEST(ModBaseDati, SeicentosettantaByteSonoDieciEstrazioniEDallaSestaSiLeggeDal33
     EXPECT_EQ(estrazioni.aEstrazioni[4][54], (669) % 91);
 }
 
+TEST(ModBaseDati, IlNumeroJDellaRuotaWStaA12PiuCinqueVolteWMenoUnoPiuJMenoUno)
+{
+    const CartellaProva cartella;
+    const auto tracciato = Tracciato("Lotto");
+    ScriviFile(cartella / "a", ByteCrescenti(2, tracciato));
+    Estrazioni estrazioni;
+    ASSERT_TRUE(LeggiEstrazioni(tracciato, 2, 2, estrazioni, cartella / "a"));
+    for (std::size_t w = 1; w <= 11; ++w) {
+        for (std::size_t j = 1; j <= 5; ++j) {
+            const std::size_t nByte = 67 + 12 + (w - 1) * 5 + (j - 1);
+            EXPECT_EQ(estrazioni.aEstrazioni[0][(w - 1) * 5 + (j - 1)], nByte % 91) << w << ' ' << j;
+        }
+    }
+}
+
+TEST(ModBaseDati, IDieciNumeriDiWinForLifeStannoDietroIlTesto)
+{
+    const CartellaProva cartella;
+    const auto tracciato = Tracciato("WinForLife");
+    ScriviFile(cartella / "a", ByteCrescenti(2, tracciato));
+    Estrazioni estrazioni;
+    ASSERT_TRUE(LeggiEstrazioni(tracciato, 2, 2, estrazioni, cartella / "a"));
+    EXPECT_EQ(estrazioni.aEstrazioni[0][0], 28 + 17);
+    EXPECT_EQ(estrazioni.aEstrazioni[0][9], 28 + 26);
+    EXPECT_EQ(estrazioni.aEstrazioni[0][10], 0) << "the last byte is no number";
+}
+
+TEST(ModBaseDati, OgniEstrazioneHaLaSuaPosizione)
+{
+    EXPECT_EQ(PosizioneEstrazione(Tracciato("WinForLife"), 1), 1);
+    EXPECT_EQ(PosizioneEstrazione(Tracciato("WinForLife"), 3), 57);
+    EXPECT_EQ(PosizioneEstrazione(Tracciato("Lotto"), 2147483647), std::int64_t{2147483646} * 67 + 1);
+}
+
 TEST(ModBaseDati, UnFileCheMancaNonHaConteggioNeEstrazioni)
 {
     const CartellaProva cartella;

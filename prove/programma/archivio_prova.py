@@ -95,10 +95,13 @@ class Archivio(Prova):
                           (testo("SuperEnalotto", []) + "ieri;1;2;3;4;5;6\n").encode(),
                           (testo("SuperEnalotto", []) + "y" * 9000).encode()):
             self.rifiuta("archivio", "importa", "--gioco", "SuperEnalotto", self.scrivi("e.csv", contenuto), vecchio,
-                         intatti=[vecchio], dice="e.csv, riga")
+                         intatti=[vecchio], dice="errore: e.csv: riga ")
         self.rifiuta("archivio", "importa", "manca.csv", vecchio, intatti=[vecchio], dice="manca.csv")
         self.rifiuta("archivio", "importa", "--gioco", "Tombola", "e.csv", vecchio, intatti=[vecchio], atteso=2)
-        self.rifiuta("archivio", atteso=2)
+        self.rifiuta("archivio", atteso=2, dice="manca il comando")
+        for parte in ("importa", "esporta"):
+            self.rifiuta("archivio", parte, "--gioco", "", vecchio, "e.csv", intatti=[vecchio], atteso=2, dice="gioco")
+        self.rifiuta("archivio", "info", "--gioco", "", vecchio, atteso=2, dice="gioco")
 
     def test_info(self):
         righe = estrazioni("SuperEnalotto", 3)
@@ -109,6 +112,33 @@ class Archivio(Prova):
         self.assertEqual(messaggi, "")
         _, messaggi = self.esegui("archivio", "info", "a.bd")
         self.assertIn("non è un multiplo di 67", messaggi)
+
+    def test_info_del_lotto_ha_una_linea_per_ruota(self):
+        righe = estrazioni("Lotto", 2)
+        uscita, _ = self.esegui("archivio", "info", self.scrivi("a.bd", byte("Lotto", righe)))
+        attese = [f"  {ruota} " + " ".join(map(str, righe[-1][5 * i:5 * i + 5])) for i, ruota in enumerate(RUOTE)]
+        self.assertEqual(uscita.splitlines()[2:], attese)
+
+    def test_info_di_un_archivio_vuoto_non_inventa_estrazioni(self):
+        uscita, messaggi = self.esegui("archivio", "info", self.scrivi("a.bd", b""))
+        self.assertEqual(uscita, "Lotto: 0 estrazioni di 55 numeri\n")
+        self.assertEqual(messaggi, "")
+        self.esegui("archivio", "esporta", "a.bd", "e.csv")
+        self.assertEqual(self.leggi("e.csv").decode(), testo("Lotto", []))
+
+    def test_info_dubita_di_numeri_impossibili(self):
+        for numero, dubbio in ((90, False), (91, True), (255, True)):
+            self.scrivi("a.bd", byte("SuperEnalotto", [[91] * 6, [1, 2, 3, 4, 5, numero]]))
+            _, messaggi = self.esegui("archivio", "info", "--gioco", "SuperEnalotto", "a.bd")
+            self.assertEqual("oltre il 90" in messaggi, dubbio, numero)
+
+    def test_molte_estrazioni_vanno_e_vengono_a_blocchi(self):
+        for quante in (10000, 10001):
+            righe = [[1, 2, 3, 4, 5, 6 + i % 85] for i in range(quante)]
+            self.importa("SuperEnalotto", testo("SuperEnalotto", righe))
+            self.assertEqual(self.leggi("a.bd"), byte("SuperEnalotto", righe))
+            self.esegui("archivio", "esporta", "--gioco", "SuperEnalotto", "a.bd", "b.csv")
+            self.assertEqual(self.leggi("b.csv").decode(), testo("SuperEnalotto", righe, data=""))
 
     def test_gli_archivi_di_esempio_sono_fatti_dai_loro_testi(self):
         cartella = Path(__file__).resolve().parents[2] / "esempi" / "archivi"
@@ -158,6 +188,18 @@ class Emulatore(Prova):
         self.assertEqual(messaggi, "avviso: Filtro emulatore non creato\n")
         _, messaggi = self.sviluppa(0)
         self.assertEqual(messaggi, "avviso: Filtro emulatore non creato\n")
+
+    def test_col_dieci_e_lotto_non_si_crea_e_si_dice_perche(self):
+        self.scrivi("a.bd", byte("10ELotto", estrazioni("10ELotto", 60)))
+        for gioco in ("10ELotto", "10ELotto5M"):
+            _, messaggi = self.sviluppa(0, "--archivio", "a.bd", "--gioco", gioco)
+            self.assertEqual(messaggi, f"avviso: il filtro emulatore non si crea per il gioco {gioco}, con nessun archivio\n"
+                                       "avviso: Filtro emulatore non creato\n")
+
+    def test_un_archivio_guasto_si_chiama_per_nome(self):
+        self.scrivi("a.bd", bytes([255]) * 67 * 20)
+        nome = self.crea({"classe": 5, "numeri": list(range(1, 8)), "righe": [["Emulatore", "[20]\r\nP0) 0 - 20\r\n", "", "", ""]]})
+        self.rifiuta("sviluppa", nome, "-o", "x.col", "--archivio", "a.bd", dice="a.bd")
 
     def test_ruota_e_archivio_sbagliati(self):
         nome = self.crea({"classe": 5, "numeri": list(range(1, 8))})

@@ -43,12 +43,46 @@ class Spoglio(Prova):
         uscita, _ = self.esegui("spoglio", nome, "--colonne", colonne, "--vincente", "5.15.25.31.41")
         self.assertTrue(uscita.endswith("La colonna vincente supera tutte le condizioni\n"))
 
+    def test_taglia_chi_non_e_recuperato_e_un_link_intero(self):
+        righe = [["LinkOpen", "", "", "", ""], ["Consecutivi", "", "0-1", "", ""], ["Ampiezza", "", "1-89", "-", " "],
+                 ["LinkClose", "", "1", "", ""], ["Consecutivi", "", "3", "0-1", "1"]]
+        for quadro, attesi in (([], ["4 LinkClose", "5 Consecutivi"]), (["1,1,-1"], ["4 LinkClose"])):
+            pagine = self.spoglio("--vincente", "5.12.30.41.60", sistema={**SISTEMA, "righe": righe, "quadro": quadro})
+            self.assertEqual(pagine["tagliata_da"], attesi)
+            self.assertEqual([r.get("Esito") for r in pagine["confronto"]], [None, "Si", "Si", None, "Si"])
+
+    def test_un_confronto_che_fallisce_lascia_le_altre_pagine(self):
+        nome = self.crea({**SISTEMA, "righe": [["Pari-Dispari", "Pari", "0-5", "", ""]]})
+        colonne = self.scrivi("c.col", byte(COLONNE))
+        opzioni = ("spoglio", nome, "--colonne", colonne, "--vincente", ".".join(str(2 * i) for i in range(1, 21)))
+        uscita, messaggi = self.esegui(*opzioni, "--json", atteso=1)
+        self.assertIn("condizione 1 Pari-Dispari", messaggi)
+        pagine = json.loads(uscita)
+        self.assertEqual([r["Colonna"] for r in pagine["vincite"]], ["1", "2", "4"])
+        self.assertIsNone(pagine["tagliata_da"])
+        uscita, _ = self.esegui(*opzioni, atteso=1)
+        self.assertNotIn("La colonna vincente", uscita)
+
+    def test_le_colonne_che_il_sistema_porta(self):
+        nome = self.crea({**SISTEMA, "righe": []})
+        with open(self.cartella / nome, "ab") as file:
+            file.write(b"COLONNE" + byte(COLONNE))
+        uscita, _ = self.esegui("spoglio", nome, "--vincente", "5.12.30.41.60", "--minimo", "3", "--json")
+        self.assertEqual([r["Colonna"] for r in json.loads(uscita)["vincite"]], ["1", "3"])
+
+    def test_link_che_non_si_chiudono_con_un_emulatore(self):
+        righe = [["Emulatore", "[1]\r\nP0) 0 - 9\r\n", "", "", ""], ["LinkOpen", "", "", "", ""]]
+        self.esegui("crea", self.scrivi("l.json", {**SISTEMA, "righe": righe}), "l.sic")
+        self.rifiuta("spoglio", "l.sic", "--colonne", self.scrivi("c.col", byte(COLONNE)), "--vincente", "5",
+                     dice="Link non valide")
+
     def test_una_colonna_di_altra_lunghezza_avvisa(self):
         self.spoglio("--vincente", "5.12.30")
         self.assertIn("la colonna vincente ha 3 numeri", self.messaggi)
 
     def test_un_filtro_emulatore_vuole_le_sue_estrazioni(self):
-        limiti = "".join(f"P{p}) 0 - {0 if p == 3 else 9}\r\n" for p in range(6))
+        # a filter with it would cut the second column, and the check is of them all
+        limiti = "".join(f"P{p}) 0 - {0 if p in (3, 5) else 9}\r\n" for p in range(6))
         nome = self.crea({**SISTEMA, "righe": [["Emulatore", "[1]\r\n" + limiti, "", "", ""]]})
         # one draw of "Lotto": wheel w has 5w-4 to 5w
         self.scrivi("a.bd", bytes(12) + bytes(range(1, 56)))
@@ -57,6 +91,7 @@ class Spoglio(Prova):
             uscita, messaggi = self.esegui(*opzioni, "--vincente", vincente, "--ruota", "Bari")
             self.assertEqual(messaggi, "")
             self.assertEqual(json.loads(uscita)["confronto"][0]["Esito"], esito)
+            self.assertIn("2", [r["Colonna"] for r in json.loads(uscita)["vincite"]])
         self.assertEqual(self.leggi("c.col"), byte(COLONNE))
         self.rifiuta("spoglio", nome, "--vincente", "1.2.3.4.5", dice="--colonne")
 
@@ -65,7 +100,8 @@ class Spoglio(Prova):
         colonne = self.scrivi("c.col", byte(COLONNE))
         for vincente in ("", "0", "91", "1.1", "1,2", "x", "1.2.", ".".join(map(str, range(1, 22)))):
             self.rifiuta("spoglio", nome, "--colonne", colonne, "--vincente", vincente, atteso=2, intatti=[nome])
-        self.rifiuta("spoglio", nome, "--colonne", colonne, "--vincente", "1", "--minimo", "11", atteso=2)
+        for minimo in ("0", "11", "-1", "x"):
+            self.rifiuta("spoglio", nome, "--colonne", colonne, "--vincente", "1", "--minimo", minimo, atteso=2)
         self.rifiuta("spoglio", nome, "--colonne", "manca.col", "--vincente", "1", dice="manca.col")
         self.rifiuta("spoglio", nome, "--colonne", self.scrivi("v.col", b""), "--vincente", "1", dice="non contiene colonne")
         self.rifiuta("spoglio", nome, "--vincente", "1", dice="--colonne")

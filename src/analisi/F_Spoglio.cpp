@@ -9,6 +9,7 @@
 #include "persistenza/ModFileColonne.hpp"
 
 #include <algorithm>
+#include <array>
 
 namespace ordavel {
 
@@ -51,7 +52,7 @@ Colonna ColonnaDa(const std::vector<double>& aPezzi)
     return colonna;
 }
 
-RigaElenco RigaVincita(std::size_t nColonna, const Colonna& colonna, std::size_t nPunti)
+RigaElenco RigaVincita(std::size_t nColonna, const Colonna& colonna, std::int32_t nPunti)
 {
     return {.sChiave = {},
             .sTesto = std::to_string(nColonna),
@@ -128,14 +129,14 @@ void F_Spoglio::VerificaVincite(std::int32_t nPuntiMin)
         const auto aVincenti = Vincenti(Pezzi(Text1.Testo.Valore(), "."));
         const auto nClasse =
             static_cast<std::size_t>(std::clamp<std::int16_t>(Ospite().classe(), 0, kClasseMassima));
-        Conteggi aConteggi{};
+        Conteggi aConteggi;
         std::vector<RigaElenco> aRighe;
         for (std::size_t i = 0; i < aColonne.size(); ++i) {
-            const auto nPunti = static_cast<std::size_t>(
+            const auto nPunti = static_cast<std::int32_t>(
                 std::count_if(aColonne[i].aNumeri.begin(), aColonne[i].aNumeri.begin() + nClasse,
                               [&](std::uint8_t nNumero) { return aVincenti[nNumero]; }));
             ++aConteggi[nPunti];
-            if (static_cast<std::int32_t>(nPunti) >= nPuntiMin) {
+            if (nPunti >= nPuntiMin) {
                 aRighe.push_back(RigaVincita(i + 1, aColonne[i], nPunti));
             }
         }
@@ -149,7 +150,7 @@ void F_Spoglio::ScriviRiepilogo(std::int32_t nPuntiMin, const Conteggi& aContegg
 {
     std::vector<RigaElenco> aRighe;
     for (std::int32_t nPunti = Ospite().classe(); nPunti >= nPuntiMin; --nPunti) {
-        const std::int32_t nColonne = aConteggi.at(static_cast<std::size_t>(nPunti));
+        const std::int32_t nColonne = aConteggi(nPunti);
         aRighe.push_back({.sChiave = {},
                           .sTesto = "Vincite con " + std::to_string(nPunti) + " punti ",
                           .aSotto = {std::to_string(nColonne)},
@@ -165,8 +166,9 @@ void F_Spoglio::GestioneConfrontoCond()
         StatoSviluppo stato;
         stato.aEmulatore = Ospite().UltimoSviluppo().aEmulatore;
         stato.bEmulatoreCaricato = Ospite().UltimoSviluppo().bEmulatoreCaricato;
-        ConfrontaCondizioni(ColonnaDa(Pezzi(Text1.Testo.Valore(), ",")), Ospite().GetGridCond(),
-                            Ospite().GetLbQuadroRec().Voci.Valore(), stato, ListView2);
+        Tagli.reset();
+        Tagli = ConfrontaCondizioni(ColonnaDa(Pezzi(Text1.Testo.Valore(), ",")), Ospite().GetGridCond(),
+                                    Ospite().GetLbQuadroRec().Voci.Valore(), stato, ListView2);
     });
 }
 

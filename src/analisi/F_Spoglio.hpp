@@ -2,18 +2,22 @@
 
 #pragma once
 
+#include "ordavel/records.hpp"
+
 #include "analisi/ClsOrdinaLv.hpp"
 #include "editor/DialogoConferma.hpp"
 
-#include <array>
+#include <cstddef>
 #include <cstdint>
+#include <optional>
+#include <vector>
 
 namespace ordavel {
 
 class F_Spoglio : public DialogoConferma {
 public:
     /// How often each score was reached, 0 to 10 points.
-    using Conteggi = std::array<std::int32_t, 11>;
+    using Conteggi = Tabella<std::int32_t, 0, kClasseMassima>;
 
     explicit F_Spoglio(OspiteDialoghi& ospite);
 
@@ -41,6 +45,10 @@ public:
     Elenco ListView1;   ///< "Colonna", "Numeri", "Punti"
     Elenco ListView2;   ///< "Id", "Condizione", "Punti", "Recupero", "Punti effettivi", "Esito"
     Elenco ListView3;   ///< "Vincita", "Colonne"
+
+    /// The records that cut the winning column in the last comparison, as indices from 0; nothing when there was none
+    /// or it failed.
+    std::optional<std::vector<std::size_t>> Tagli;
 
 private:
     void LoadComboPuntiMin();

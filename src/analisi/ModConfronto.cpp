@@ -61,6 +61,34 @@ bool ConEmulatore(const StatoSviluppo& stato) noexcept
                        [](const RecordCondizione& r) { return r.Tipo == TipoCondizione::emulatore; });
 }
 
+std::vector<std::size_t> TagliDeiRecord(const std::vector<RecordCondizione>& aCondizioni)
+{
+    std::vector<std::size_t> aTagli;
+    for (std::size_t i = 0; i < aCondizioni.size(); ++i) {
+        if (!IsLink(aCondizioni[i]) && aCondizioni[i].Esito == kFalso) {
+            aTagli.push_back(i);
+        }
+    }
+    return aTagli;
+}
+
+/// The links' working copy holds, in order, a verdict for each condition that is in no link and for each outermost
+/// link, which ends where no link is open any more.
+std::vector<std::size_t> TagliDeiBlocchi(const StatoSviluppo& stato)
+{
+    std::vector<std::size_t> aTagli;
+    auto verdetto = stato.aLavoroLink.begin();
+    std::int32_t nAperti = 0;
+    for (std::size_t i = 0; i < stato.aCondizioni.size(); ++i) {
+        nAperti += stato.aCondizioni[i].Tipo == TipoCondizione::linkOpen ? 1 : 0;
+        nAperti -= stato.aCondizioni[i].Tipo == TipoCondizione::linkClose ? 1 : 0;
+        if (nAperti == 0 && verdetto++->Esito == kFalso) {
+            aTagli.push_back(i);
+        }
+    }
+    return aTagli;
+}
+
 } // namespace
 
 std::string_view NomeCondizione(TipoCondizione tipo) noexcept
@@ -78,13 +106,25 @@ std::int16_t ClasseColonna(const Colonna& colonna) noexcept
     return static_cast<std::int16_t>(colonna.aNumeri.rend() - ultimo);
 }
 
-void ConfrontaCondizioni(const Colonna& colonna, const GrigliaCondizioni& griglia,
-                         std::span<const std::string> aRigheQuadro, StatoSviluppo& stato, Elenco& oLista)
+std::vector<std::size_t> RecordCheTagliano(StatoSviluppo& stato)
+{
+    if (ValutaLink(stato)) {
+        return {};
+    }
+    return std::any_of(stato.aCondizioni.begin(), stato.aCondizioni.end(), IsLink) &&
+                   LinkCoerenti(stato.aCondizioni)
+               ? TagliDeiBlocchi(stato)
+               : TagliDeiRecord(stato.aCondizioni);
+}
+
+std::vector<std::size_t> ConfrontaCondizioni(const Colonna& colonna, const GrigliaCondizioni& griglia,
+                                             std::span<const std::string> aRigheQuadro, StatoSviluppo& stato,
+                                             Elenco& oLista)
 {
     oLista.Righe.Poni({});
     const std::int16_t nClasse = ClasseColonna(colonna);
     if (nClasse == 0) {
-        return;
+        return {};
     }
     LeggiCondizioniDaGriglia(stato.aCondizioni, griglia, aRigheQuadro, stato.aQuadroRec);
     if (ConEmulatore(stato) && !stato.bEmulatoreCaricato) {
@@ -98,6 +138,7 @@ void ConfrontaCondizioni(const Colonna& colonna, const GrigliaCondizioni& grigli
         }
     }
     oLista.Righe.Poni(std::move(aRighe));
+    return RecordCheTagliano(stato);
 }
 
 } // namespace ordavel

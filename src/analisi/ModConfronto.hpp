@@ -6,9 +6,11 @@
 #include "ordavel/GrigliaCondizioni.hpp"
 #include "ordavel/StatoSviluppo.hpp"
 
+#include <cstddef>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace ordavel {
 
@@ -29,9 +31,22 @@ inline constexpr Colore kColoreScartata = 255;
 /// Links have only the first two. A column of zeros leaves the list empty.
 /// Takes    aRigheQuadro   lines of the recovery board
 ///          stato          draws of the emulator
+/// Gives    the indices of the records that cut the column, as RecordCheTagliano does
 /// Changes  stato          the compiled conditions with their verdicts
 /// Fails    as compiling and VerificaColonna do; 9: an "Emulatore" while no draws were ever loaded
-void ConfrontaCondizioni(const Colonna& colonna, const GrigliaCondizioni& griglia,
-                         std::span<const std::string> aRigheQuadro, StatoSviluppo& stato, Elenco& oLista);
+std::vector<std::size_t> ConfrontaCondizioni(const Colonna& colonna, const GrigliaCondizioni& griglia,
+                                             std::span<const std::string> aRigheQuadro, StatoSviluppo& stato,
+                                             Elenco& oLista);
+
+/// Why the column that was tested last is no column of the system.
+///
+/// A condition cuts by itself when no link holds it. What stands in a link is counted there, so a link cuts as a
+/// whole and is named by its "LinkClose"; of links one in the other the outermost speaks. Without cuts the column
+/// passes.
+/// Takes    stato   verdicts of a column. Links that do not close one another cut nothing: every record stands
+///                  for itself
+/// Gives    indices of records, from 0, ascending
+/// Fails    9: more satisfied conditions than a link can list
+[[nodiscard]] std::vector<std::size_t> RecordCheTagliano(StatoSviluppo& stato);
 
 } // namespace ordavel

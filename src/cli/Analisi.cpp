@@ -7,19 +7,23 @@
 #include "cli/StampaElenco.hpp"
 #include "cli/TestoErrato.hpp"
 #include "cli/UsaArchivio.hpp"
+#include "core/ModNumeri.hpp"
 
 #include <algorithm>
 #include <iostream>
+#include <optional>
 
 namespace ordavel::cli {
 
 namespace {
 
-/// The three pages, as the dialog shows them.
+/// The three pages, as the dialog shows them, and which conditions cut the winning column.
 struct Pagine {
     Elenco vincite;
     Elenco confronto;
     Elenco riepilogo;
+    std::optional<std::vector<std::size_t>> aTagli; ///< nothing when the comparison failed
+    bool bPronte = false;
 };
 
 std::string Unisci(const std::vector<std::int32_t>& aNumeri, char cSeparatore)
@@ -36,8 +40,8 @@ void Gioca(F_Spoglio& finestra, const OpzioniSpoglio& opzioni, Pagine& pagine)
 {
     auto aVincente = opzioni.aVincente;
     std::sort(aVincente.begin(), aVincente.end());
-    if (opzioni.nMinimo > 0) {
-        SelezionaCombo(std::to_string(opzioni.nMinimo), finestra.CmbPuntiMin);
+    if (opzioni.nMinimo) {
+        SelezionaCombo(std::to_string(*opzioni.nMinimo), finestra.CmbPuntiMin);
     }
     finestra.Text1.Testo.Poni(Unisci(aVincente, '.'));
     if (!finestra.verificaCoerenzacolonna()) {
@@ -49,36 +53,38 @@ void Gioca(F_Spoglio& finestra, const OpzioniSpoglio& opzioni, Pagine& pagine)
     pagine.vincite = finestra.ListView1;
     pagine.confronto = finestra.ListView2;
     pagine.riepilogo = finestra.ListView3;
+    pagine.aTagli = finestra.Tagli;
+    pagine.bPronte = true;
 }
 
-/// The key of every condition stands in its row; some have no name in the comparison.
+/// The key of the condition that a row of the comparison is about; some have no name there.
+std::string NomeIn(ordavel::Ordavel& sistema, const std::string& sNumero)
+{
+    return sistema.GetGridCond().Riga(LeggiIntero<std::int32_t>(sNumero)).sCondizione;
+}
+
 void CompletaNomi(ordavel::Ordavel& sistema, Elenco& confronto)
 {
     auto aRighe = confronto.Righe.Valore();
-    for (std::size_t i = 0; i < aRighe.size(); ++i) {
-        aRighe[i].aSotto[0] = sistema.GetGridCond().Riga(static_cast<std::int32_t>(i) + 1).sCondizione;
+    for (RigaElenco& riga : aRighe) {
+        riga.aSotto[0] = NomeIn(sistema, riga.sTesto);
     }
     confronto.Righe.Poni(std::move(aRighe));
 }
 
-/// Which conditions the winning column does not satisfy.
-std::vector<std::string> Tagli(const Elenco& confronto)
+/// What cuts the winning column, by number and name.
+std::vector<std::string> NomiTagli(ordavel::Ordavel& sistema, const std::vector<std::size_t>& aTagli)
 {
-    std::vector<std::string> aTagli;
-    for (const RigaElenco& riga : confronto.Righe.Valore()) {
-        if (!riga.aSotto.empty() && riga.aSotto.back() == "No") {
-            aTagli.push_back(riga.sTesto + " " + riga.aSotto[0]);
-        }
+    std::vector<std::string> aNomi;
+    for (const std::size_t nIndice : aTagli) {
+        const std::string sNumero = std::to_string(nIndice + 1);
+        aNomi.push_back(sNumero + " " + NomeIn(sistema, sNumero));
     }
-    return aTagli;
+    return aNomi;
 }
 
-void Stampa(const Pagine& pagine)
+void StampaTagli(const std::vector<std::string>& aTagli)
 {
-    StampaElenco(std::cout, "Vincite", pagine.vincite);
-    StampaElenco(std::cout, "Confronto condizioni", pagine.confronto);
-    StampaElenco(std::cout, "Riepilogo", pagine.riepilogo);
-    const std::vector<std::string> aTagli = Tagli(pagine.confronto);
     std::cout << "\nLa colonna vincente ";
     if (aTagli.empty()) {
         std::cout << "supera tutte le condizioni\n";
@@ -91,26 +97,42 @@ void Stampa(const Pagine& pagine)
     std::cout << '\n';
 }
 
-nlohmann::ordered_json ComeJson(const Pagine& pagine)
+void Stampa(ordavel::Ordavel& sistema, const Pagine& pagine)
 {
-    return {{"vincite", ElencoComeJson(pagine.vincite)},
-            {"confronto", ElencoComeJson(pagine.confronto)},
-            {"riepilogo", ElencoComeJson(pagine.riepilogo)},
-            {"tagliata_da", Tagli(pagine.confronto)}};
+    StampaElenco(std::cout, "Vincite", pagine.vincite);
+    StampaElenco(std::cout, "Confronto condizioni", pagine.confronto);
+    StampaElenco(std::cout, "Riepilogo", pagine.riepilogo);
+    if (pagine.aTagli) {
+        StampaTagli(NomiTagli(sistema, *pagine.aTagli));
+    }
+}
+
+nlohmann::ordered_json ComeJson(ordavel::Ordavel& sistema, const Pagine& pagine)
+{
+    nlohmann::ordered_json oggetto{{"vincite", ElencoComeJson(pagine.vincite)},
+                                   {"confronto", ElencoComeJson(pagine.confronto)},
+                                   {"riepilogo", ElencoComeJson(pagine.riepilogo)},
+                                   {"tagliata_da", nullptr}};
+    if (pagine.aTagli) {
+        oggetto["tagliata_da"] = NomiTagli(sistema, *pagine.aTagli);
+    }
+    return oggetto;
 }
 
 /// The comparison knows the draws that a run has loaded: a filter of the same columns loads them.
-void CaricaEstrazioni(Sessione& sessione, const OpzioniSpoglio& opzioni)
+/// Gives    whether they are there, or nobody asks for them
+bool CaricaEstrazioni(Sessione& sessione, const OpzioniSpoglio& opzioni)
 {
     if (!sessione.Sistema().IsCondizionePresente("Emulatore")) {
-        return;
+        return true;
     }
     if (opzioni.sColonne.empty()) {
         throw TestoErrato("col filtro emulatore le colonne si dicono con --colonne");
     }
     UsaArchivio(sessione, opzioni.sArchivio, opzioni.sRuota);
-    sessione.Sistema().GestSviluppoDaFileColonne(opzioni.sColonne);
+    const bool bCaricate = sessione.Sistema().GestSviluppoDaFileColonne(opzioni.sColonne);
     sessione.UsaColonne(opzioni.sColonne);
+    return bCaricate && !sessione.Desktop().Critico();
 }
 
 bool ApriPerSpoglio(Sessione& sessione, const OpzioniSpoglio& opzioni)
@@ -122,11 +144,13 @@ bool ApriPerSpoglio(Sessione& sessione, const OpzioniSpoglio& opzioni)
     if (!opzioni.sColonne.empty()) {
         sessione.UsaColonne(opzioni.sColonne);
     }
-    CaricaEstrazioni(sessione, opzioni);
     ordavel::Ordavel& sistema = sessione.Sistema();
     if (sistema.QuantitaColonne() == 0) {
         throw TestoErrato(opzioni.sColonne.empty() ? "il sistema non porta colonne: dille con --colonne"
                                                    : opzioni.sColonne + " non contiene colonne");
+    }
+    if (!CaricaEstrazioni(sessione, opzioni)) {
+        return false;
     }
     const auto nClasse = static_cast<std::size_t>(sistema.classe());
     if (opzioni.aVincente.size() != nClasse) {
@@ -149,16 +173,17 @@ eUscita Spoglio(const OpzioniSpoglio& opzioni)
         Pagine pagine;
         Rispondi<F_Spoglio>(sessione, [&](F_Spoglio& finestra) { Gioca(finestra, opzioni, pagine); });
         sessione.Sistema().Toolbar2_ButtonClick("ConfrontoCondSuCol");
-        if (sessione.Desktop().Critico()) {
+        if (!pagine.bPronte) {
             return false;
         }
+        // Pages that did not fail are shown beside the failure, as in the dialog.
         CompletaNomi(sessione.Sistema(), pagine.confronto);
         if (opzioni.bJson) {
-            std::cout << ComeJson(pagine).dump(2) << '\n';
+            std::cout << ComeJson(sessione.Sistema(), pagine).dump(2) << '\n';
         } else {
-            Stampa(pagine);
+            Stampa(sessione.Sistema(), pagine);
         }
-        return true;
+        return !sessione.Desktop().Critico();
     }));
 }
 

@@ -5,6 +5,7 @@
 #include "cli/Uscite.hpp"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,10 +15,10 @@ struct OpzioniSpoglio {
     std::string sSistema;
     std::string sColonne; ///< column file; empty for the columns that the system carries
     std::vector<std::int32_t> aVincente;
-    std::string sGioco;       ///< name of a game; empty for the first
-    std::string sArchivio;    ///< its draw archive, for an emulator; empty for none
-    std::string sRuota;       ///< wheel of "Lotto" that is emulated; empty for the first
-    std::int32_t nMinimo = 0; ///< least score to list; 0 for the game's own
+    std::string sGioco;                  ///< name of a game; empty for the first
+    std::string sArchivio;               ///< its draw archive, for an emulator; empty for none
+    std::string sRuota;                  ///< wheel of "Lotto" that is emulated; empty for the first
+    std::optional<std::int32_t> nMinimo; ///< least score to list; empty for the game's own
     bool bJson = false;
 };
 

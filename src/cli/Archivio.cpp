@@ -3,183 +3,32 @@
 #include "cli/Archivio.hpp"
 
 #include "cli/Sessione.hpp"
-#include "cli/TestoErrato.hpp"
+#include "cli/TestoEstrazioni.hpp"
 #include "core/FileBinario.hpp"
 #include "core/ModNumeri.hpp"
-#include "core/ModTesti.hpp"
 #include "persistenza/ModBaseDati.hpp"
 
 #include <algorithm>
 #include <fstream>
 #include <iostream>
-#include <iterator>
-#include <set>
+#include <span>
 
 namespace ordavel::cli {
 
 namespace {
-
-constexpr std::size_t kByteLinea = 4096;
-constexpr std::size_t kEstrazioniBlocco = 10000;
-constexpr std::string_view kSeparatori = ";,\t";
-
-/// What is known of the text while it is read.
-struct Lettura {
-    const ProfiloGioco& gioco;
-    TracciatoEstrazione tracciato;
-    std::string sFile;
-    std::int64_t nLinea = 0;
-    char cSeparatore = ';';
-};
-
-[[noreturn]] void Rifiuta(const Lettura& lettura, const std::string& sPerche)
-{
-    throw TestoErrato(lettura.sFile + ", riga " + std::to_string(lettura.nLinea) + ": " + sPerche);
-}
-
-/// A line without its end; false behind the last one.
-bool LeggiLinea(std::istream& ingresso, Lettura& lettura, std::string& sLinea)
-{
-    sLinea.clear();
-    ++lettura.nLinea;
-    char c = 0;
-    bool bQualcosa = false;
-    while (ingresso.get(c) && c != '\n') {
-        bQualcosa = true;
-        if (sLinea.size() == kByteLinea) {
-            Rifiuta(lettura, "è troppo lunga");
-        }
-        sLinea += c;
-    }
-    if (sLinea.ends_with('\r')) {
-        sLinea.pop_back();
-    }
-    return bQualcosa || c == '\n';
-}
-
-std::vector<std::string> Parti(const std::string& sLinea, char cSeparatore)
-{
-    std::vector<std::string> aParti;
-    for (const std::string_view sParte : Dividi(sLinea, std::string_view(&cSeparatore, 1))) {
-        aParti.push_back(Sostituisci(TogliBlank(sParte), "\"", ""));
-    }
-    return aParti;
-}
-
-/// The names in the heading.
-std::vector<std::string> Nomi(const ProfiloGioco& gioco)
-{
-    std::vector<std::string> aNomi{"Data"};
-    for (std::int32_t i = 0; i < gioco.nNumeriEstrazione; ++i) {
-        const bool bRuote = gioco.sNome == "Lotto";
-        const auto nRuota = static_cast<std::size_t>(i / kNumeriRuota);
-        aNomi.push_back(bRuote ? std::string(Ruote()[nRuota]) + std::to_string(i % kNumeriRuota + 1)
-                               : "N" + std::to_string(i + 1));
-    }
-    return aNomi;
-}
-
-/// The heading tells the separator.
-void LeggiIntestazione(std::istream& ingresso, Lettura& lettura)
-{
-    constexpr std::string_view kSegnoUtf8 = "\xEF\xBB\xBF";
-    std::string sLinea;
-    if (!LeggiLinea(ingresso, lettura, sLinea)) {
-        Rifiuta(lettura, "il testo è vuoto");
-    }
-    if (sLinea.starts_with(kSegnoUtf8)) {
-        sLinea.erase(0, kSegnoUtf8.size());
-    }
-    const std::vector<std::string> aNomi = Nomi(lettura.gioco);
-    for (const char cSeparatore : kSeparatori) {
-        const auto aParti = Parti(sLinea, cSeparatore);
-        if (std::equal(aParti.begin(), aParti.end(), aNomi.begin(), aNomi.end(), UgualiSenzaCaso)) {
-            lettura.cSeparatore = cSeparatore;
-            return;
-        }
-    }
-    Rifiuta(lettura, "l'intestazione deve essere \"" + aNomi[0] + ";" + aNomi[1] + ";...;" + aNomi.back() +
-                         "\", " + std::to_string(aNomi.size()) + " nomi");
-}
-
-bool Data(const std::string& sData)
-{
-    return sData.find_first_not_of("0123456789/-.") == std::string::npos;
-}
-
-std::uint8_t Numero(const Lettura& lettura, const std::string& sNumero)
-{
-    const bool bCifre = sNumero.size() <= 2 && sNumero.find_first_not_of("0123456789") == std::string::npos;
-    if (!bCifre || LeggiNumero(sNumero) > kNumeroMassimo) {
-        Rifiuta(lettura, "\"" + sNumero.substr(0, 20) + "\" non è un numero da 0 a 90");
-    }
-    return static_cast<std::uint8_t>(LeggiNumero(sNumero));
-}
-
-/// No number is drawn twice; on a wheel, for the game of wheels.
-void ControllaDoppi(const Lettura& lettura, const Estrazione& estrazione)
-{
-    const bool bRuote = lettura.gioco.sNome == "Lotto";
-    std::set<std::pair<std::int32_t, std::uint8_t>> visti;
-    for (std::int32_t i = 0; i < lettura.tracciato.nNumeri; ++i) {
-        const std::uint8_t nNumero = estrazione[static_cast<std::size_t>(i)];
-        if (nNumero != 0 && !visti.emplace(bRuote ? i / kNumeriRuota : 0, nNumero).second) {
-            Rifiuta(lettura, "il " + std::to_string(nNumero) + " è estratto due volte");
-        }
-    }
-}
-
-Estrazione LeggiEstrazione(const Lettura& lettura, const std::string& sLinea)
-{
-    const auto aParti = Parti(sLinea, lettura.cSeparatore);
-    const auto nParti = static_cast<std::size_t>(lettura.tracciato.nNumeri) + 1;
-    if (aParti.size() != nParti) {
-        Rifiuta(lettura,
-                "ha " + std::to_string(aParti.size()) + " parti, ne servono " + std::to_string(nParti));
-    }
-    if (!Data(aParti[0])) {
-        Rifiuta(lettura, "\"" + aParti[0].substr(0, 20) + "\" non è una data");
-    }
-    Estrazione estrazione{};
-    std::transform(aParti.begin() + 1, aParti.end(), estrazione.begin(),
-                   [&](const std::string& sNumero) { return Numero(lettura, sNumero); });
-    ControllaDoppi(lettura, estrazione);
-    return estrazione;
-}
-
-/// Reads all draws and hands them to the archive, a block at a time.
-/// Gives    how many there were
-std::int64_t Trascrivi(std::istream& ingresso, Lettura& lettura, FileBinario& archivio)
-{
-    std::int64_t nEstrazioni = 0;
-    std::vector<Estrazione> aBlocco;
-    for (std::string sLinea; LeggiLinea(ingresso, lettura, sLinea);) {
-        if (TogliBlank(sLinea).empty()) {
-            continue;
-        }
-        aBlocco.push_back(LeggiEstrazione(lettura, sLinea));
-        ++nEstrazioni;
-        if (aBlocco.size() == kEstrazioniBlocco) {
-            AccodaEstrazioni(lettura.tracciato, aBlocco, archivio);
-            aBlocco.clear();
-        }
-    }
-    AccodaEstrazioni(lettura.tracciato, aBlocco, archivio);
-    return nEstrazioni;
-}
 
 bool Importa(Sessione& sessione, const OpzioniArchivio& opzioni, const ProfiloGioco& gioco)
 {
     ControllaUscita(opzioni.sArchivio, opzioni.sTesto);
     FileBinario(opzioni.sTesto, eApertura::lettura).Chiudi();
     std::ifstream ingresso(opzioni.sTesto, std::ios::binary);
-    Lettura lettura{.gioco = gioco, .tracciato = TracciatoDi(gioco), .sFile = opzioni.sTesto};
-    LeggiIntestazione(ingresso, lettura);
     std::int64_t nEstrazioni = 0;
     const bool bFatto =
         ScriviAlPosto(sessione.Desktop(), opzioni.sArchivio, [&](const std::string& sProvvisorio) {
             FileBinario archivio(sProvvisorio, eApertura::scrittura);
-            nEstrazioni = Trascrivi(ingresso, lettura, archivio);
+            nEstrazioni = LeggiTestoEstrazioni(ingresso, opzioni.sTesto, gioco, [&](const auto& aEstrazioni) {
+                AccodaEstrazioni(TracciatoDi(gioco), aEstrazioni, archivio);
+            });
             archivio.Chiudi();
             return true;
         });
@@ -194,24 +43,6 @@ std::int32_t Quante(const TracciatoEstrazione& tracciato, const std::string& sAr
     return ComeIntero<std::int32_t>(ContaEstrazioni(tracciato, sArchivio).value_or(0));
 }
 
-std::string LineaDi(const TracciatoEstrazione& tracciato, const Estrazione& estrazione)
-{
-    std::string sLinea;
-    for (std::int32_t i = 0; i < tracciato.nNumeri; ++i) {
-        sLinea += ";" + std::to_string(estrazione[static_cast<std::size_t>(i)]);
-    }
-    return sLinea + "\n";
-}
-
-std::string IntestazioneDi(const ProfiloGioco& gioco)
-{
-    std::string sLinea;
-    for (const std::string& sNome : Nomi(gioco)) {
-        sLinea += (sLinea.empty() ? "" : ";") + sNome;
-    }
-    return sLinea + "\n";
-}
-
 void Accoda(FileBinario& file, const std::string& sTesto)
 {
     file.Accoda(std::as_bytes(std::span(sTesto)));
@@ -220,19 +51,17 @@ void Accoda(FileBinario& file, const std::string& sTesto)
 void ScriviTesto(const OpzioniArchivio& opzioni, const ProfiloGioco& gioco, std::int32_t nEstrazioni,
                  FileBinario& testo)
 {
-    const TracciatoEstrazione tracciato = TracciatoDi(gioco);
-    Accoda(testo, IntestazioneDi(gioco));
-    for (std::int32_t nPrima = 1; nPrima <= nEstrazioni;
-         nPrima += static_cast<std::int32_t>(kEstrazioniBlocco)) {
-        const std::int32_t nUltima =
-            std::min(nEstrazioni, nPrima + static_cast<std::int32_t>(kEstrazioniBlocco) - 1);
+    Accoda(testo, IntestazioneEstrazioni(gioco));
+    for (std::int32_t nFatte = 0; nFatte < nEstrazioni;) {
+        const std::int32_t nPrima = nFatte + 1;
+        nFatte += std::min(nEstrazioni - nFatte, kEstrazioniBlocco);
         Estrazioni estrazioni;
-        if (!LeggiEstrazioni(tracciato, nPrima, nUltima, estrazioni, opzioni.sArchivio)) {
+        if (!LeggiEstrazioni(TracciatoDi(gioco), nPrima, nFatte, estrazioni, opzioni.sArchivio)) {
             throw Errore(eErrore::dispositivo, opzioni.sArchivio);
         }
         std::string sBlocco;
         for (const Estrazione& estrazione : estrazioni.aEstrazioni) {
-            sBlocco += LineaDi(tracciato, estrazione);
+            sBlocco += LineaEstrazione(gioco, estrazione);
         }
         Accoda(testo, sBlocco);
     }
@@ -250,21 +79,47 @@ bool Esporta(Sessione& sessione, const OpzioniArchivio& opzioni, const ProfiloGi
     });
 }
 
+/// The numbers of a draw, of each wheel in a line where there are wheels.
+void StampaEstrazione(const ProfiloGioco& gioco, const Estrazione& estrazione)
+{
+    const bool bRuote = gioco.sNome == "Lotto";
+    std::cout << "L'ultima:";
+    for (std::int32_t i = 0; i < gioco.nNumeriEstrazione; ++i) {
+        if (bRuote && i % kNumeriRuota == 0) {
+            std::cout << "\n  " << Ruote()[static_cast<std::size_t>(i / kNumeriRuota)];
+        }
+        std::cout << ' ' << static_cast<int>(estrazione[static_cast<std::size_t>(i)]);
+    }
+    std::cout << '\n';
+}
+
+/// Neither of the two is proof, but an archive of another game shows at least one of them, nearly always.
+void ControllaForma(Sessione& sessione, const OpzioniArchivio& opzioni, const ProfiloGioco& gioco,
+                    const Estrazione& ultima)
+{
+    const std::string sDubbio = ": forse non è un archivio di " + std::string(gioco.sNome);
+    if (FileBinario(opzioni.sArchivio, eApertura::lettura).Lunghezza() % gioco.nByteEstrazione != 0) {
+        sessione.Desktop().Avvisa("la lunghezza di " + opzioni.sArchivio + " non è un multiplo di " +
+                                  std::to_string(gioco.nByteEstrazione) + sDubbio);
+    }
+    if (std::any_of(ultima.begin(), ultima.end(), [](std::uint8_t n) { return n > kNumeroMassimo; })) {
+        sessione.Desktop().Avvisa("l'ultima estrazione di " + opzioni.sArchivio + " ha numeri oltre il 90" +
+                                  sDubbio);
+    }
+}
+
 bool Info(Sessione& sessione, const OpzioniArchivio& opzioni, const ProfiloGioco& gioco)
 {
     const TracciatoEstrazione tracciato = TracciatoDi(gioco);
     const std::int32_t nEstrazioni = Quante(tracciato, opzioni.sArchivio);
-    const double nEsatte = ContaEstrazioni(tracciato, opzioni.sArchivio).value_or(0);
-    if (nEsatte != nEstrazioni) {
-        sessione.Desktop().Avvisa("la lunghezza di " + opzioni.sArchivio + " non è un multiplo di " +
-                                  std::to_string(tracciato.nByte) + ": forse non è un archivio di " +
-                                  std::string(gioco.sNome));
-    }
+    Estrazioni ultima;
+    const bool bLetta =
+        nEstrazioni > 0 && LeggiEstrazioni(tracciato, nEstrazioni, nEstrazioni, ultima, opzioni.sArchivio);
+    ControllaForma(sessione, opzioni, gioco, ultima.aEstrazioni[0]);
     std::cout << gioco.sNome << ": " << FormattaNumero(nEstrazioni) << " estrazioni di " << tracciato.nNumeri
               << " numeri\n";
-    Estrazioni ultima;
-    if (LeggiEstrazioni(tracciato, nEstrazioni, nEstrazioni, ultima, opzioni.sArchivio)) {
-        std::cout << "L'ultima:" << Sostituisci(LineaDi(tracciato, ultima.aEstrazioni[0]), ";", " ");
+    if (bLetta) {
+        StampaEstrazione(gioco, ultima.aEstrazioni[0]);
     }
     return true;
 }

@@ -1,8 +1,6 @@
 // Archivio.hpp - draw archives made from a text, and made a text again.
 //
-// The text has a heading, "Data" and a name for each number of the record ("Bari1" to "Nazionale5" for "Lotto", else
-// "N1", "N2" ...), and a line for each draw, oldest first. ";", "," or a tab stands between the parts; an absent
-// number is 0 or nothing. The date is for the reader: an archive keeps none, and none comes out of it.
+// What the text looks like is told in TestoEstrazioni.hpp.
 
 #pragma once
 

@@ -104,10 +104,10 @@ bool PreparaCorsa(Sessione& sessione, const OpzioniCorsa& opzioni)
     if (!opzioni.bEffetto) {
         ControllaUscita(opzioni.sUscita, opzioni.sSistema);
     }
-    UsaArchivio(sessione, opzioni.sArchivio, opzioni.sRuota);
     if (!sessione.Apri(opzioni.sSistema, opzioni.sTemp)) {
         return false;
     }
+    UsaArchivio(sessione, opzioni.sArchivio, opzioni.sRuota);
     if (opzioni.sOrigine.empty() && sistema.classe() == 0) {
         sessione.Desktop().Avvisa("la classe di " + opzioni.sSistema +
                                   " non è da 2 a 10: forse non è un file di sistema");

@@ -45,6 +45,15 @@ void ControllaGioco(const std::string& sGioco)
     throw UsoErrato("gioco sconosciuto \"" + sGioco + "\"; i giochi sono " + sNomi);
 }
 
+/// An archive is always that of a game.
+void ControllaArchivio(const std::string& sGioco)
+{
+    if (sGioco.empty()) {
+        throw UsoErrato("--gioco vuole il nome di un gioco");
+    }
+    ControllaGioco(sGioco);
+}
+
 void ControllaGruppo(std::int32_t nGruppo, std::int32_t nMinimo)
 {
     if (nGruppo < nMinimo || nGruppo > kGruppiRecupero) {
@@ -162,7 +171,7 @@ void LeggiVincente(Riga& riga)
         riga.spoglio.aVincente.size() > static_cast<std::size_t>(kNumeriColonna)) {
         throw UsoErrato("--vincente vuole da 1 a 20 numeri");
     }
-    if (riga.spoglio.nMinimo < 0 || riga.spoglio.nMinimo > kClasseMassima) {
+    if (const auto nMinimo = riga.spoglio.nMinimo; nMinimo && (*nMinimo < 1 || *nMinimo > kClasseMassima)) {
         throw UsoErrato("--minimo va da 1 a 10");
     }
 }
@@ -207,7 +216,7 @@ void ControllaParole(const std::string& sComando, Riga& riga)
         {"filtra", [](Riga& r) { ControllaCorsa(r); }},
         {"effetto", [](Riga& r) { ControllaCorsa(r); }},
         {"spoglio", [](Riga& r) { LeggiVincente(r); }},
-        {"archivio", [](Riga& r) { ControllaGioco(r.archivio.sGioco); }},
+        {"archivio", [](Riga& r) { ControllaArchivio(r.archivio.sGioco); }},
         {"aggiungi", [](Riga& r) { ControllaAggiungi(r); }},
         {"togli", [](Riga& r) { ControllaTratto(r, true); }},
         {"salva-condizioni", [](Riga& r) { ControllaTratto(r, false); }},

@@ -283,7 +283,7 @@ std::string Traduci(const CLI::ParseError& errore)
 {
     std::string sTesto = errore.what();
     if (dynamic_cast<const CLI::RequiredError*>(&errore) != nullptr) {
-        return "manca " + Sostituisci(sTesto, " is required", "");
+        return "manca " + Sostituisci(Sostituisci(sTesto, "A subcommand", "il comando"), " is required", "");
     }
     if (dynamic_cast<const CLI::ExtrasError*>(&errore) != nullptr) {
         return "argomento di troppo: " + sTesto.substr(sTesto.rfind(": ") + 2);

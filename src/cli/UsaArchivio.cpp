@@ -11,6 +11,19 @@
 
 namespace ordavel::cli {
 
+namespace {
+
+/// The emulator knows some games by another name than the list does, and so never finds them.
+void AvvisaGioco(Sessione& sessione, const ProfiloGioco& gioco)
+{
+    if (sessione.Sistema().IsCondizionePresente("Emulatore") && gioco.sChiaveEmulatore != gioco.sNome) {
+        sessione.Desktop().Avvisa("il filtro emulatore non si crea per il gioco " + std::string(gioco.sNome) +
+                                  ", con nessun archivio");
+    }
+}
+
+} // namespace
+
 void ScegliGioco(Sessione& sessione, const std::string& sGioco)
 {
     if (!sGioco.empty()) {
@@ -32,6 +45,7 @@ void UsaArchivio(Sessione& sessione, const std::string& sArchivio, const std::st
         FileBinario(sArchivio, eApertura::lettura).Chiudi();
         const auto nGioco = static_cast<std::size_t>(sessione.Sistema().GetIdCmbTipoGioco());
         (sessione.Sistema().*kArchivi.at(nGioco))(sArchivio);
+        AvvisaGioco(sessione, ProfiliGioco()[nGioco]);
     }
     Rispondi<F_ScegliRuota>(sessione, [sRuota](F_ScegliRuota& finestra) {
         if (!sRuota.empty()) {

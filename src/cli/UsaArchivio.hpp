@@ -12,7 +12,8 @@ namespace ordavel::cli {
 /// Takes    sGioco   a game's name, checked before
 void ScegliGioco(Sessione& sessione, const std::string& sGioco);
 
-/// Gives the component the archive of its game, and answers which wheel is emulated.
+/// Gives the component the archive of its game, and answers which wheel is emulated. Warns when its system asks for
+/// an emulator that no archive of that game can feed.
 /// Takes    sArchivio   empty for none
 ///          sRuota      a wheel's name, checked before; empty for the first
 /// Fails    53, 57, 70, 75, 76: the archive cannot be read

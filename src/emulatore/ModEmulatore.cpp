@@ -40,16 +40,17 @@ std::size_t PrimoEmulato(const ProfiloGioco& gioco, std::int16_t nRuota)
 }
 
 std::vector<RigaEmulatore> RigheDi(const Estrazioni& estrazioni, const ProfiloGioco& gioco,
-                                   std::int16_t nRuota)
+                                   std::int16_t nRuota, const std::string& sArchivio)
 {
     const std::size_t nPrimo = PrimoEmulato(gioco, nRuota);
     std::vector<RigaEmulatore> aRighe(estrazioni.aEstrazioni.size());
     for (std::size_t i = 0; i < aRighe.size(); ++i) {
         for (std::size_t j = 0; j < static_cast<std::size_t>(gioco.nNumeriEmulati); ++j) {
             const std::uint8_t nNumero = estrazioni.aEstrazioni[i][nPrimo + j];
-            if (nNumero != 0) {
-                aRighe[i](nNumero) = 1;
+            if (nNumero > kNumeroMassimo) {
+                throw Errore(eErrore::indice, sArchivio);
             }
+            aRighe[i][nNumero] = nNumero != 0 ? 1 : 0; // an absent number marks nothing
         }
     }
     return aRighe;
@@ -83,11 +84,11 @@ bool CreaDatiEmulatore(const std::string& sFile, std::int16_t nColonne, std::int
     const TracciatoEstrazione tracciato = TracciatoDi(*gioco);
     const auto nPresenti = ComeIntero<std::int32_t>(ContaEstrazioni(tracciato, sArchivio).value_or(0));
     Estrazioni estrazioni;
-    if (nPresenti < nColonne ||
-        !LeggiEstrazioni(tracciato, nPresenti + 1 - nColonne, nPresenti, estrazioni, sArchivio)) {
+    if (nColonne < 1 || nPresenti < nColonne ||
+        !LeggiEstrazioni(tracciato, nPresenti - nColonne + 1, nPresenti, estrazioni, sArchivio)) {
         return false;
     }
-    const std::vector<RigaEmulatore> aRighe = RigheDi(estrazioni, *gioco, nRuota);
+    const std::vector<RigaEmulatore> aRighe = RigheDi(estrazioni, *gioco, nRuota, sArchivio);
     if (!KillFile(sFile, segnalatore)) {
         return true;
     }

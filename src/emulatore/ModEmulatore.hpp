@@ -27,7 +27,7 @@ void LeggiFileEmulatore(const std::string& sFile, std::vector<RigaEmulatore>& aR
 ///                      the game, which those of "10ELotto" are not
 ///          sArchivio   the game's archive
 /// Gives    false when there is no such game, or the archive has not as many draws; the older file then stays
-/// Fails    9: a number above 90 in the archive, or a wheel outside 1..11; 57, 61, 70, 75, 76 of the file
+/// Fails    9: a number above 90 in the archive, which is named, or a wheel outside 1..11; 57, 61, 70, 75, 76 of the file
 [[nodiscard]] bool CreaDatiEmulatore(const std::string& sFile, std::int16_t nColonne, std::int16_t nRuota,
                                      std::string_view sGioco, const std::string& sArchivio,
                                      Segnalatore& segnalatore);
