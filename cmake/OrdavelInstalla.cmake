@@ -13,3 +13,7 @@ install(FILES ${PROJECT_BINARY_DIR}/OrdavelConfig.cmake ${PROJECT_BINARY_DIR}/Or
 if(ORDAVEL_CLI)
   install(TARGETS ordavel_programma)
 endif()
+# Beside the library, where it looks for them.
+if(ORDAVEL_ESTERNI)
+  install(TARGETS trvrdcol LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+endif()

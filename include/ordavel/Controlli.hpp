@@ -75,6 +75,19 @@ struct Controllo {
 /// A text that is only shown.
 struct Etichetta : Controllo {
     Stato<std::string> Testo;
+    Stato<std::string> Suggerimento; ///< tool tip
+};
+
+/// A button with a caption.
+struct Pulsante : Controllo {
+    Stato<std::string> Testo;
+};
+
+/// Calls its owner again and again while it is on. The view brings the ticks, as long as events run.
+struct Temporizzatore {
+    Stato<bool> Acceso{false};
+    std::int32_t nMillisecondi = 0;
+    std::function<void()> scatto; ///< one tick
 };
 
 /// Does a box for figures take a key? Digits, ",", Enter and Backspace pass.

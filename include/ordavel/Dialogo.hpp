@@ -27,6 +27,9 @@ public:
     /// Hides it, with its answer.
     void Nascondi(std::string_view sTagNuovo);
 
+    /// May its window be closed now? A desktop asks before it lets a user close it.
+    [[nodiscard]] virtual bool PuoChiudersi() const { return true; }
+
     const std::string sNome;
     const std::string sTitolo;
     Stato<bool> Visibile{false};

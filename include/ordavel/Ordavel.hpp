@@ -15,8 +15,8 @@
 // loaded and ScriviProprieta when it is saved. PercorsoTemp must be set through PoniPercorsoTemp for the working
 // column file to have a name; reading it from the settings does not give it one.
 //
-// Everything runs on one thread. A development, a filter and a text export let pending events run; a host may then
-// read anything, call Stop() (or AnnullaExport() during an export) and set numbers and settings, which count from the
+// Everything runs on one thread. A development, a filter, a text export and a reduction let pending events run; a host
+// may then read anything, call Stop() (or AnnullaExport(), or StopRiduciColonne()) and set numbers and settings, which count from the
 // next run on. Whatever would change the conditions, start a second run, open, save, or touch the working file or its
 // folder is refused and does nothing.
 //
@@ -43,8 +43,10 @@ namespace ordavel {
 
 class DialogoCondizione;
 class F_NavigaSistema;
+class F_Riduzione;
 class FileBinario;
 class OspiteDialoghi;
+struct StatoRiduzione;
 
 /// What the component tells its host.
 struct EventiOrdavel {
@@ -300,9 +302,17 @@ public:
     /// Ends a text export at its next look.
     void AnnullaExport() noexcept { m_StopExport = true; }
 
-    /// Reduces a column file. There is no reduction yet: failure 438.
-    static void RiduciColonne(const std::string& sFileCol, std::int32_t nPuntiRichiesti);
-    static void StopRiduciColonne() noexcept {}
+    /// Reduces a column file into the working file: every column of it has numbers in common with one that stays.
+    ///
+    /// The internal engine works in memory, and after a stop what it has done by then is kept, or the whole input; its
+    /// phase and progress are shown on the dialog F_Riduzione, loaded but not shown. The external one takes its time
+    /// and tells nothing of a failure. During a run nothing is done.
+    /// Takes    sFileCol          at most 1000000 columns; may be the working file
+    ///          nPuntiRichiesti   numbers in common; any number
+    /// A missing file, too many columns and failures ("OrdavelSisG.RiduciColonne") are shown.
+    void RiduciColonne(const std::string& sFileCol, std::int32_t nPuntiRichiesti);
+    /// Ends a reduction by the internal engine at its next look.
+    void StopRiduciColonne() noexcept;
 
     // ---- measures of a column ----
     //
@@ -361,6 +371,7 @@ private:
     class AvanzamentoPannello;
     class CorsaInVista;
     class ExportInVista;
+    class RiduzioneInCorso;
     struct Comando;
 
     bool CreaPercorsoOAvvisa(const std::string& sPercorso);
@@ -410,7 +421,9 @@ private:
     void ScegliDaMenu(TipoCondizione tipo);
     void SalvaConFlag(std::string sFile);
     void ApriFiltroFileColonne();
-    [[noreturn]] static void NonAncora(std::string_view sNome);
+    void PremiRiduzione();
+    [[nodiscard]] F_Riduzione& FinestraRiduzione();
+    void RiduciInterno(const std::string& sFileCol, std::int32_t nPuntiRichiesti, std::int64_t nColonne);
 
     // Runs.
     void MostraFineSviluppo(float nInizio);
@@ -444,6 +457,8 @@ private:
     std::unique_ptr<Statistica> m_Statistica;
     std::unique_ptr<OspiteDialoghi> m_Ospite;         ///< the component as its dialogs see it
     std::unique_ptr<F_NavigaSistema> m_NavigaSistema; ///< loaded at its first use
+    std::shared_ptr<F_Riduzione> m_Riduzione;         ///< loaded at its first use, until it was shown
+    std::unique_ptr<StatoRiduzione> m_StatoRiduzione;
 
     std::string m_FileSistema;
     std::string m_FileColonne;

@@ -45,6 +45,21 @@ RC_GTEST_PROP(ModEmulazione, GliInsiemiDiconoQuelloCheDiconoLeRighe, ())
     }
 }
 
+TEST(ModEmulazione, OgniNucleoDelProcessoreContaLoStesso)
+{
+    std::mt19937 sorte(2);
+    const std::vector<RigaEmulatore> aRighe = EstrazioniCasuali(sorte, 700);
+    const RigheEmulatore insiemi(aRighe);
+    for (std::int16_t nClasse = 0; nClasse <= kNumeriColonna; ++nClasse) {
+        const Colonna colonna = ColonnaCasuale(sorte);
+        const ContatoriEmulatore aAttesi = CalcolaEmulatore(nClasse, colonna, aRighe);
+        for (std::uint8_t n = 0; n <= static_cast<std::uint8_t>(NucleoMigliore()); ++n) {
+            EXPECT_EQ(CalcolaEmulatore(nClasse, colonna, insiemi, static_cast<eNucleo>(n)), aAttesi)
+                << "nucleo " << int{n} << ", classe " << nClasse;
+        }
+    }
+}
+
 TEST(ModEmulazione, OgniQuantitaDiRigheAiConfiniDelleParole)
 {
     std::mt19937 sorte(1);

@@ -234,7 +234,11 @@ constexpr auto kMembri = std::to_array<Membro>({
          EXPECT_EQ(prove::LeggiFile(b.cartella / "copia.txt"), "03 08\r\n03 40\r\n");
      }},
     {53, "RiduciColonne",
-     [](Banco& b) { EXPECT_EQ(NumeroErrore([&] { b.sistema.RiduciColonne("c.col", 3); }), 438); }},
+     [](Banco& b) {
+         b.FileDiLavoro();
+         b.sistema.RiduciColonne(b.sistema.FileColonne(), 1);
+         EXPECT_EQ(b.ByteColonne().size(), 20U);
+     }},
     {54, "StopRiduciColonne", [](Banco& b) { b.sistema.StopRiduciColonne(); }},
     {55, "GetIdCmbTipoGioco", [](Banco& b) { EXPECT_EQ(b.sistema.GetIdCmbTipoGioco(), 0); }},
     {56, "GetIdCmbTipoGiocoString", [](Banco& b) { EXPECT_EQ(b.sistema.GetIdCmbTipoGiocoString(), "Lotto"); }},

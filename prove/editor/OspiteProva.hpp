@@ -45,6 +45,9 @@ public:
     }
     void SetColonnaGrid(std::int32_t nId) override { griglia.PoniCorrente(nId); }
     void AnnullaExport() override { bExportAnnullato = true; }
+    [[nodiscard]] eMotoreSviluppo MotoreSviluppo() const override { return motore; }
+    void PoniMotoreSviluppo(eMotoreSviluppo nuovo) override { motore = nuovo; }
+    void StopRiduciColonne() override { ++nStopRiduzione; }
 
     PiattaformaProva desktop;
     GrigliaCondizioni griglia;
@@ -55,6 +58,8 @@ public:
     std::vector<std::string> aColonne; ///< of the working file, as text
     int nColonneLette = 0;
     bool bExportAnnullato = false;
+    eMotoreSviluppo motore = eMotoreSviluppo::interno;
+    int nStopRiduzione = 0;
     std::string sDirSistemi;
     std::string sPercorsoSalvaColonne;
     std::vector<std::int16_t> aScelti;

@@ -7,6 +7,7 @@ import signal
 import time
 import unittest
 from itertools import combinations, islice
+from pathlib import Path
 
 import comune
 from comune import Prova
@@ -18,6 +19,43 @@ OTTO = [peso([1, 2, 3], range(6, 200)), pari({1, 2, 3, 4, 5, 6}), dispari({1, 2,
         punti_colonna([7, 14, 21, 28, 35], {0, 1, 2, 3}), resto_di(5, {0, 1, 3}), peso([8], range(20, 91)),
         resto_di(9, {0, 1, 2, 3, 4, 5, 6, 7})]
 NUMERI = range(1, 46)
+
+
+class InterruzioneRiduzione(Prova):
+    def aspetta_lavoro(self, processo):
+        """Waits until the program has worked for a while, whatever else the machine does."""
+        fine = time.monotonic() + comune.SECONDI_MASSIMI
+        while self.secondi_lavorati(processo) < 1:
+            self.assertIsNone(processo.poll(), "the run has ended by itself")
+            self.assertLess(time.monotonic(), fine)
+            time.sleep(0.01)
+
+    def secondi_lavorati(self, processo):
+        campi = Path(f"/proc/{processo.pid}/stat").read_text(encoding="ascii").rpartition(")")[2].split()
+        return int(campi[11]) / os.sysconf("SC_CLK_TCK")
+
+    def interrompi(self, classe, numeri, punti, segnale):
+        """Stops the reduction of a million columns: whatever stays covers them all."""
+        colonne = in_byte(islice(combinations(range(1, numeri + 1), classe), 1000000))
+        self.scrivi("prova.col", colonne)
+        processo = self.apri("riduci", "prova.col", "-o", "meno.col", "--punti", punti, "--json")
+        self.aspetta_lavoro(processo)
+        processo.send_signal(segnale)
+        da = time.monotonic()
+        uscita, messaggi = self.termina(processo, 130)
+        self.assertLess(time.monotonic() - da, 10, "a stop is not kept waiting")
+        self.assertEqual(messaggi, "")
+        esito = comune.json.loads(uscita)
+        self.assertTrue(esito["interrotto"])
+        self.assertEqual((esito["colonne"], esito["ridotte"] * 20), (1000000, len(self.leggi("meno.col"))))
+        self.assertEqual(self.leggi("prova.col"), colonne)
+        self.esegui("garanzia", "prova.col", "meno.col", "--punti", punti)
+
+    def test_righe_di_bit(self):
+        self.interrompi(10, 45, 4, signal.SIGINT)
+
+    def test_insiemi_condivisi(self):
+        self.interrompi(8, 45, 6, signal.SIGTERM)
 
 
 class Interruzione(Prova):

@@ -7,7 +7,7 @@ from albero import inclusioni
 PIANI = {
     "core": 0,
     "calcoli": 1, "condizioni": 1, "persistenza": 1,
-    "motore": 2, "riduzione": 2, "emulatore": 2,
+    "motore": 2, "riduzione": 2, "emulatore": 2, "esterni": 2,
     "piattaforma": 3,
     "editor": 4, "analisi": 4,
     "controllo": 5,

@@ -3,6 +3,7 @@
 #include "calcoli/ModEmulazione.hpp"
 
 #include "calcoli/ModForma.hpp"
+#include "core/ModProcessore.hpp"
 
 #include <algorithm>
 #include <array>
@@ -109,47 +110,26 @@ void NucleoComune(std::int16_t nClasse, const Colonna& colonna, const RigheEmula
     ContaClasse(nClasse, colonna, righe, aContatori);
 }
 
-#if defined(__x86_64__)
-[[gnu::target("popcnt,avx2")]] void NucleoAvx2(std::int16_t nClasse, const Colonna& colonna,
-                                               const RigheEmulatore& righe, ContatoriEmulatore& aContatori)
+ORDAVEL_AVX2 void NucleoAvx2(std::int16_t nClasse, const Colonna& colonna, const RigheEmulatore& righe,
+                             ContatoriEmulatore& aContatori)
 {
     ContaClasse(nClasse, colonna, righe, aContatori);
 }
 
-// Both compilers prefer half of the width that this form exists for, and each is told otherwise in its own words.
-#    if defined(__clang__)
-[[gnu::target("avx512f,avx512vl,avx512bw,avx512vpopcntdq,popcnt"), clang::min_vector_width(512)]] void
-#    else
-[[gnu::target("avx512f,avx512vl,avx512bw,avx512vpopcntdq,popcnt,prefer-vector-width=512")]] void
-#    endif
-NucleoAvx512(std::int16_t nClasse, const Colonna& colonna, const RigheEmulatore& righe,
-             ContatoriEmulatore& aContatori)
+ORDAVEL_AVX512 void NucleoAvx512(std::int16_t nClasse, const Colonna& colonna, const RigheEmulatore& righe,
+                                 ContatoriEmulatore& aContatori)
 {
     ContaClasse(nClasse, colonna, righe, aContatori);
 }
 
-/// The widest form that this processor has.
-Nucleo ScegliNucleo() noexcept
-{
-    __builtin_cpu_init();
-    if (__builtin_cpu_supports("avx512vpopcntdq") && __builtin_cpu_supports("avx512vl") &&
-        __builtin_cpu_supports("avx512bw")) {
-        return NucleoAvx512;
-    }
-    return __builtin_cpu_supports("avx2") && __builtin_cpu_supports("popcnt") ? NucleoAvx2 : NucleoComune;
-}
-#else
-Nucleo ScegliNucleo() noexcept
-{
-    return NucleoComune;
-}
-#endif
+/// By eNucleo.
+constexpr std::array<Nucleo, 3> kNuclei{NucleoComune, NucleoAvx2, NucleoAvx512};
 
 } // namespace
 
-ContatoriEmulatore CalcolaEmulatore(std::int16_t nClasse, const Colonna& colonna, const RigheEmulatore& righe)
+ContatoriEmulatore CalcolaEmulatore(std::int16_t nClasse, const Colonna& colonna, const RigheEmulatore& righe,
+                                    eNucleo nucleo)
 {
-    static const Nucleo nucleo = ScegliNucleo();
     const std::size_t nRighe = righe.Righe().size();
     if (nRighe > static_cast<std::size_t>(std::numeric_limits<std::int16_t>::max())) {
         return CalcolaEmulatore(nClasse, colonna, std::span(righe.Righe()));
@@ -159,7 +139,7 @@ ContatoriEmulatore CalcolaEmulatore(std::int16_t nClasse, const Colonna& colonna
         VerificaNumeri(nClasse, colonna);
     }
     ContatoriEmulatore aContatori;
-    nucleo(nClasse, colonna, righe, aContatori);
+    kNuclei[static_cast<std::size_t>(nucleo)](nClasse, colonna, righe, aContatori);
     const auto nColpite =
         std::accumulate(aContatori.aElementi.begin() + 1, aContatori.aElementi.end(), std::size_t{0},
                         [](std::size_t nFin, std::int16_t n) { return nFin + static_cast<std::size_t>(n); });

@@ -5,6 +5,7 @@
 #include "ordavel/RigheEmulatore.hpp"
 
 #include "calcoli/ModCifre.hpp"
+#include "core/ModProcessore.hpp"
 
 namespace ordavel {
 
@@ -13,8 +14,10 @@ namespace ordavel {
 ///
 /// The hits of 64 draws are added as five binary digits, each a word, and counted where the digits say h.
 /// Takes    nClasse   0..20
+///          nucleo    one that this processor has
 /// Fails    9: nClasse above 20, or a number above 90 while there are draws; 6: more than 32767 draws hit alike
 [[nodiscard]] ContatoriEmulatore CalcolaEmulatore(std::int16_t nClasse, const Colonna& colonna,
-                                                  const RigheEmulatore& righe);
+                                                  const RigheEmulatore& righe,
+                                                  eNucleo nucleo = NucleoMigliore());
 
 } // namespace ordavel

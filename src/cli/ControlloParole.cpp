@@ -193,6 +193,33 @@ void ControllaColonna(const Riga& riga)
     }
 }
 
+/// One of two ways: into a named file with so many points, or streaming with so many points given up.
+void ControllaRiduci(const Riga& riga)
+{
+    const OpzioniRiduci& opzioni = riga.riduci;
+    if (opzioni.bSequenziale) {
+        if (!opzioni.sUscita.empty() || opzioni.nPunti || !opzioni.sMotore.empty() || opzioni.nSecondi) {
+            throw UsoErrato("con --sequenziale va solo --riduzione: il file ridotto prende il nome da sé");
+        }
+        if (opzioni.nRiduzione < 1 || opzioni.nRiduzione > kRiduzioneSequenzialeMassima) {
+            throw UsoErrato("--riduzione va da 1 a " + std::to_string(kRiduzioneSequenzialeMassima));
+        }
+        return;
+    }
+    if (opzioni.nRiduzione != 0) {
+        throw UsoErrato("--riduzione va con --sequenziale");
+    }
+    if (opzioni.sUscita.empty() || !opzioni.nPunti) {
+        throw UsoErrato("servono -o e --punti, oppure --sequenziale e --riduzione");
+    }
+    if (!opzioni.sMotore.empty() && opzioni.sMotore != "interno" && opzioni.sMotore != "esterno") {
+        throw UsoErrato("--motore è \"interno\" o \"esterno\", non \"" + opzioni.sMotore + "\"");
+    }
+    if (opzioni.nSecondi && (opzioni.sMotore != "esterno" || *opzioni.nSecondi < 0)) {
+        throw UsoErrato("--secondi va con --motore esterno, da 0 in su");
+    }
+}
+
 /// What is looked at for a command.
 struct Controllo {
     const char* sComando;
@@ -222,6 +249,7 @@ void ControllaParole(const std::string& sComando, Riga& riga)
         {"salva-condizioni", [](Riga& r) { ControllaTratto(r, false); }},
         {"quadro", [](Riga& r) { ControllaQuadro(r); }},
         {"vedi", [](Riga& r) { ControllaVedi(r); }},
+        {"riduci", [](Riga& r) { ControllaRiduci(r); }},
     });
     for (const Controllo& controllo : kControlli) {
         if (sComando == controllo.sComando) {

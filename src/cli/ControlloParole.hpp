@@ -7,6 +7,7 @@
 #include "cli/Colonne.hpp"
 #include "cli/Comandi.hpp"
 #include "cli/Modifiche.hpp"
+#include "cli/Riduci.hpp"
 
 #include <functional>
 #include <stdexcept>
@@ -30,6 +31,8 @@ struct Riga {
     OpzioniVedi vedi;
     OpzioniSpoglio spoglio;
     OpzioniArchivio archivio;
+    OpzioniRiduci riduci;
+    OpzioniGaranzia garanzia;
     std::string sVincente;
     std::string sUscita;
     std::string sTesto;

@@ -9,6 +9,7 @@
 #include "cli/ControlloParole.hpp"
 #include "cli/Modifiche.hpp"
 #include "cli/PiattaformaCli.hpp"
+#include "cli/Riduci.hpp"
 #include "condizioni/ModCatalogo.hpp"
 #include "core/ModFunzGeneriche.hpp"
 #include "core/ModGiochi.hpp"
@@ -37,7 +38,9 @@ constexpr const char* kChiusura =
     "  ordavel misura 5 3 12 27 28 90\n"
     "  ordavel aggiungi sistema.sic --tipo Pari-Dispari --parametri 'Pari\\n2,3'\n"
     "  ordavel aggiungi sistema.sic --file condizioni.cnd\n"
-    "  ordavel quadro sistema.sic --gruppo 1 --minimo 1 --massimo 2\n";
+    "  ordavel quadro sistema.sic --gruppo 1 --minimo 1 --massimo 2\n"
+    "  ordavel riduci colonne.col -o ridotte.col --punti 4\n"
+    "  ordavel garanzia colonne.col ridotte.col --punti 4\n";
 
 void TraduciAiuto(CLI::App& programma)
 {
@@ -237,6 +240,36 @@ void AggiungiVedi(CLI::App& programma, Riga& riga)
     comando->callback([&riga] { riga.azione = [&riga] { return Vedi(riga.vedi); }; });
 }
 
+void AggiungiRiduci(CLI::App& programma, Riga& riga)
+{
+    OpzioniRiduci& opzioni = riga.riduci;
+    CLI::App* comando = NuovoComando(programma, "riduci", "Riduce un file di colonne con una garanzia");
+    comando->add_option("COLONNE", opzioni.sFile, "Il file .col da ridurre")->required();
+    comando->add_option("-o,--uscita", opzioni.sUscita, "Il file .col da scrivere");
+    comando->add_option("--punti", opzioni.nPunti,
+                        "Quanti numeri ogni colonna ha in comune con una di quelle che restano");
+    comando->add_option("--motore", opzioni.sMotore,
+                        "\"interno\" (di suo), o \"esterno\", che cerca più a lungo e tiene meno colonne");
+    comando->add_option("--secondi", opzioni.nSecondi, "Quanto può cercare il motore esterno (60 di suo)");
+    comando->add_flag("--sequenziale", opzioni.bSequenziale,
+                      "Nell'ordine del file, anche oltre un milione di colonne; scrive accanto al file un "
+                      "\"..._Rid_N-K.col\"");
+    comando->add_option("--riduzione", opzioni.nRiduzione, "Quanti punti cedere (K), da 1 a 3");
+    comando->add_flag("--json", opzioni.bJson, "Il risultato come oggetto JSON");
+    comando->callback([&riga] { riga.azione = [&riga] { return Riduci(riga.riduci); }; });
+}
+
+void AggiungiGaranzia(CLI::App& programma, Riga& riga)
+{
+    OpzioniGaranzia& opzioni = riga.garanzia;
+    CLI::App* comando = NuovoComando(programma, "garanzia", "Controlla che una riduzione tenga la promessa");
+    comando->add_option("COLONNE", opzioni.sFile, "Il file .col che fu ridotto")->required();
+    comando->add_option("RIDOTTE", opzioni.sRidotto, "Il file .col ridotto")->required();
+    comando->add_option("--punti", opzioni.nPunti, "I numeri in comune promessi")->required();
+    comando->add_flag("--json", opzioni.bJson, "Il risultato come oggetto JSON");
+    comando->callback([&riga] { riga.azione = [&riga] { return Garanzia(riga.garanzia); }; });
+}
+
 void AggiungiComandi(CLI::App& programma, Riga& riga)
 {
     TraduciAiuto(programma);
@@ -257,6 +290,8 @@ void AggiungiComandi(CLI::App& programma, Riga& riga)
     AggiungiVedi(programma, riga);
     AggiungiEffetto(programma, riga);
     AggiungiSpoglio(programma, riga);
+    AggiungiRiduci(programma, riga);
+    AggiungiGaranzia(programma, riga);
     AggiungiArchivio(programma, riga);
 }
 

@@ -130,11 +130,16 @@ bool Sessione::Apri(const std::string& sFile, const std::string& sTemp)
     return m_Ordavel.Apri() && !m_Piattaforma.Critico();
 }
 
+void Sessione::UsaCartellaPropria()
+{
+    m_Cartella.emplace("");
+    m_Ordavel.PoniPercorsoTemp(m_Cartella->Path());
+}
+
 void Sessione::UsaColonne(const std::string& sFile)
 {
     FileBinario(sFile, eApertura::lettura).Chiudi();
-    m_Cartella.emplace("");
-    m_Ordavel.PoniPercorsoTemp(m_Cartella->Path());
+    UsaCartellaPropria();
     std::error_code codice;
     fs::create_symlink(fs::absolute(sFile), m_Ordavel.FileColonne(), codice);
     Controlla(codice, m_Ordavel.FileColonne());

@@ -45,6 +45,10 @@ public:
     /// Fails    as CartellaPrivata does, and as copying a file does
     bool Apri(const std::string& sFile, const std::string& sTemp);
 
+    /// Works in a private folder in the system's temporary one; there is no working file.
+    /// Fails    as CartellaPrivata does
+    void UsaCartellaPropria();
+
     /// Makes a column file the working file of the session, without copying it.
     /// Fails    53, 57, 70, 75, 76: it cannot be read; and as CartellaPrivata does
     void UsaColonne(const std::string& sFile);

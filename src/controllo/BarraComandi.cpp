@@ -117,7 +117,7 @@ constexpr std::array kVoci = std::to_array<RigaVoce>({
 });
 // clang-format on
 
-PulsanteStrumento Pulsante(const RigaPulsante& riga)
+PulsanteStrumento PulsanteDi(const RigaPulsante& riga)
 {
     PulsanteStrumento pulsante{.sChiave = std::string(riga.sChiave),
                                .sSuggerimento = std::string(riga.sSuggerimento),
@@ -148,7 +148,7 @@ PulsanteStrumento Pulsante(const RigaPulsante& riga)
 std::vector<PulsanteStrumento> PulsantiOrdavel()
 {
     std::vector<PulsanteStrumento> aPulsanti;
-    std::transform(kPulsanti.begin(), kPulsanti.end(), std::back_inserter(aPulsanti), Pulsante);
+    std::transform(kPulsanti.begin(), kPulsanti.end(), std::back_inserter(aPulsanti), PulsanteDi);
     return aPulsanti;
 }
 

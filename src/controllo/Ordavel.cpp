@@ -3,6 +3,7 @@
 #include "ordavel/Ordavel.hpp"
 
 #include "analisi/F_NavigaSistema.hpp"
+#include "analisi/F_Riduzione.hpp"
 #include "condizioni/ModCompila.hpp"
 #include "controllo/BarraComandi.hpp"
 #include "controllo/OspiteOrdavel.hpp"
@@ -10,6 +11,7 @@
 #include "core/ModGiochi.hpp"
 #include "core/ModNumeri.hpp"
 #include "motore/ModIntegrali.hpp"
+#include "riduzione/ModRiduci.hpp"
 
 #include <span>
 
@@ -31,7 +33,8 @@ void Riempi(Combo& combo, std::span<const std::string_view> aVoci)
 Ordavel::Ordavel(Piattaforma& piattaforma)
     : m_Piattaforma(piattaforma),
       m_Statistica(piattaforma.CreaStatistica()),
-      m_Ospite(std::make_unique<OspiteOrdavel>(*this, piattaforma, m_Statistica))
+      m_Ospite(std::make_unique<OspiteOrdavel>(*this, piattaforma, m_Statistica)),
+      m_StatoRiduzione(std::make_unique<StatoRiduzione>())
 {
     m_Controlli.Toolbar2.aPulsanti = PulsantiOrdavel();
     m_Controlli.PanSviluppo.Visibile.Poni(false);

@@ -48,7 +48,7 @@ void Ordavel::Toolbar2_ButtonClick(std::string_view sChiave)
         {"Naviga", [](Ordavel& o) { o.PremiNaviga(); }},
         {"EffettoCondizioni", [](Ordavel& o) { o.PremiEffetto(); }},
         {"ConfrontoCondSuCol", [](Ordavel& o) { o.PremiConfronto(); }},
-        {"Riduzione", [](Ordavel&) { NonAncora("F_Riduzione"); }},
+        {"Riduzione", [](Ordavel& o) { o.PremiRiduzione(); }},
         {"StampaSk", [](Ordavel& o) { o.PremiStampa(); }},
         {"puntimassivi", [](Ordavel& o) { o.ApplicaImpostaPunti(); }},
     });
@@ -239,16 +239,6 @@ void Ordavel::ApriFiltroFileColonne()
         FormattaNumero(GetNumeroColonneInFile(sFile, m_Piattaforma).value_or(0)));
     m_Controlli.LabNumSel.Testo.Poni("File");
     GestSviluppoDaFileColonne(sFile);
-}
-
-void Ordavel::NonAncora(std::string_view sNome)
-{
-    throw Errore(eErrore::membro, sNome);
-}
-
-void Ordavel::RiduciColonne(const std::string& /*sFileCol*/, std::int32_t /*nPuntiRichiesti*/)
-{
-    NonAncora("RiduciColonne");
 }
 
 } // namespace ordavel

@@ -21,8 +21,6 @@ namespace ordavel {
 
 namespace {
 
-constexpr float kSecondiAlGiorno = 86400;
-
 /// Moves the source aside when it is the destination itself, however its path is written. Whether case counts is
 /// for the file system to say.
 std::string MettiDaParte(const std::string& sOrigine, const std::string& sDestinazione,
@@ -164,9 +162,7 @@ void Ordavel::Stop()
 
 void Ordavel::MostraFineSviluppo(float nInizio)
 {
-    // The clock starts again at midnight, and a run may not.
-    float nDurata = m_Piattaforma.SecondiDaMezzanotte() - nInizio;
-    nDurata += nDurata < 0 ? kSecondiAlGiorno : 0;
+    const float nDurata = SecondiTrascorsi(nInizio, m_Piattaforma.SecondiDaMezzanotte());
     const std::string sTempo = FormattaTempo(static_cast<std::int64_t>(std::trunc(nDurata)));
     m_Piattaforma.MostraMessaggio({.icona = eIcona::informazione,
                                    .sTitolo = "Sviluppo",

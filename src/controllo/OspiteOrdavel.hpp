@@ -36,6 +36,9 @@ public:
         return m_Ordavel.GetColonnaSviluppo(nId);
     }
     void SetColonnaGrid(std::int32_t nId) override { m_Ordavel.SetColonnaGrid(nId); }
+    [[nodiscard]] eMotoreSviluppo MotoreSviluppo() const override { return m_Ordavel.MotoreSviluppo(); }
+    void PoniMotoreSviluppo(eMotoreSviluppo motore) override { m_Ordavel.PoniMotoreSviluppo(motore); }
+    void StopRiduciColonne() override { m_Ordavel.StopRiduciColonne(); }
     void AnnullaExport() override { m_Ordavel.AnnullaExport(); }
     [[nodiscard]] Piattaforma& Desktop() override { return m_Piattaforma; }
     [[nodiscard]] Statistica& StatisticaSistema() override

@@ -150,6 +150,12 @@ std::int16_t PercentualeProgress(double nFatte, double nTotale)
     return ComeIntero<std::int16_t>(std::min(Pavimento(nFatte * 100 / nTotale), 100.0));
 }
 
+float SecondiTrascorsi(float nInizio, float nFine) noexcept
+{
+    constexpr float kSecondiAlGiorno = 86400;
+    return nFine - nInizio + (nFine < nInizio ? kSecondiAlGiorno : 0);
+}
+
 std::string FormattaTempo(std::int64_t nSecondi)
 {
     constexpr std::int64_t kMinuto = 60;

@@ -67,6 +67,10 @@ template <typename T> void Aumenta(T& nContatore, std::type_identity_t<T> nQuant
 /// Fails    11: nTotale is 0
 [[nodiscard]] std::int16_t PercentualeProgress(double nFatte, double nTotale);
 
+/// Seconds between two readings of a clock that starts again at midnight; a run may pass one midnight.
+/// Takes    nInizio, nFine   seconds since midnight
+[[nodiscard]] float SecondiTrascorsi(float nInizio, float nFine) noexcept;
+
 /// A duration as hours, minutes and seconds: 3725 gives "01:02:05".
 /// Takes    nSecondi   whole seconds, 0 or more
 [[nodiscard]] std::string FormattaTempo(std::int64_t nSecondi);

@@ -38,6 +38,11 @@ public:
     [[nodiscard]] virtual std::string GetColonnaSviluppo(std::int32_t nId) = 0;
     /// Selects a condition and brings it into view.
     virtual void SetColonnaGrid(std::int32_t nId) = 0;
+    /// The engine of the next development.
+    [[nodiscard]] virtual eMotoreSviluppo MotoreSviluppo() const = 0;
+    virtual void PoniMotoreSviluppo(eMotoreSviluppo motore) = 0;
+    /// Ends a reduction in memory at its next look.
+    virtual void StopRiduciColonne() = 0;
     /// Ends a text export at its next look.
     virtual void AnnullaExport() = 0;
     [[nodiscard]] virtual Piattaforma& Desktop() = 0;
