@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <numeric>
+#include <optional>
 #include <random>
 #include <span>
 #include <string>
@@ -91,7 +92,19 @@ std::vector<double> Conteggi(const StatoSviluppo& stato)
     return aConteggi;
 }
 
-/// One whole development. Wrong counts make its line an error.
+std::optional<eNucleo> NucleoChiesto(const benchmark::State& giri)
+{
+    return giri.range(0) < 0 ? std::nullopt : std::optional(static_cast<eNucleo>(giri.range(0)));
+}
+
+/// The plain form, and the blocks by each instruction set of this processor.
+void Forme(benchmark::internal::Benchmark* banco)
+{
+    banco->DenseRange(-1, static_cast<int>(NucleoMigliore()))->Unit(benchmark::kMillisecond);
+}
+
+/// One whole development; the argument is an instruction set, -1 for the plain form. Wrong counts make its line an
+/// error.
 /// Takes    nAttese   columns to be kept
 ///          aAttesi   columns that satisfy each condition
 void Sviluppa(benchmark::State& giri, const std::vector<RecordCondizione>& aCondizioni, std::int32_t nAttese,
@@ -101,7 +114,7 @@ void Sviluppa(benchmark::State& giri, const std::vector<RecordCondizione>& aCond
     SenzaMostrare avanzamento;
     ScriviFile(giri, [&](FileBinario& file) {
         stato.aCondizioni = aCondizioni;
-        SviluppaColonne(TuttiINumeri(), kClasse, 0, file, stato, avanzamento);
+        SviluppaColonne(TuttiINumeri(), kClasse, 0, file, stato, avanzamento, NucleoChiesto(giri));
     });
     giri.counters["tenute"] = stato.nCondizionate;
     if (stato.nCondizionate != nAttese || Conteggi(stato) != aAttesi) {
@@ -177,7 +190,7 @@ void VerificaTipo(benchmark::State& giri)
     const std::vector<Colonna> aColonne = ColonneACaso(kClasse, 4096);
     StatoSviluppo stato;
     stato.aCondizioni = {Tipica(static_cast<TipoCondizione>(giri.range(0)))};
-    stato.aEmulatore.assign(50, RigaEmulatore{});
+    stato.aEmulatore = RigheEmulatore(std::vector<RigaEmulatore>(50));
     for (auto _ : giri) {
         for (const Colonna& colonna : aColonne) {
             benchmark::DoNotOptimize(VerificaColonna(kClasse, colonna, stato));
@@ -189,17 +202,15 @@ void VerificaTipo(benchmark::State& giri)
 BENCHMARK(ScriviSoltanto)->Unit(benchmark::kMillisecond);
 BENCHMARK(EnumeraSoltanto)->Unit(benchmark::kMillisecond);
 BENCHMARK(EnumeraEVerifica)->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Sviluppa, senza_condizioni, {RecordCondizione{}}, 43949268, {0})
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK_CAPTURE(Sviluppa, una_condizione, {Intervallo(peso, 200, 255)}, 16183140, {16183140})
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Sviluppa, senza_condizioni, {RecordCondizione{}}, 43949268, {0})->Apply(Forme);
+BENCHMARK_CAPTURE(Sviluppa, una_condizione, {Intervallo(peso, 200, 255)}, 16183140, {16183140})->Apply(Forme);
 BENCHMARK_CAPTURE(Sviluppa, tre_condizioni,
                   {Intervallo(peso, 200, 255), prove::Dispari({3}), Lista(consecutivi, {0, 1})}, 5082009,
                   {16183140, 14048100, 43320522})
-    ->Unit(benchmark::kMillisecond);
+    ->Apply(Forme);
 BENCHMARK_CAPTURE(Sviluppa, otto_condizioni, OttoMiste(), 2459943,
                   {16183140, 14048100, 43320522, 43949016, 30078543, 40383000, 38582604, 32954856})
-    ->Unit(benchmark::kMillisecond);
+    ->Apply(Forme);
 BENCHMARK(VerificaTipo)->DenseRange(0, kTipiCondizione)->Unit(benchmark::kMicrosecond);
 
 } // namespace

@@ -13,6 +13,7 @@
 #include "persistenza/ModFileColonne.hpp"
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -64,11 +65,12 @@ public:
     {}
 
     /// Develops the picks and gives the columns of the file.
-    std::vector<Colonna> Sviluppa(const std::vector<int>& aScelti, int nClasse, int nLimite = 0)
+    std::vector<Colonna> Sviluppa(const std::vector<int>& aScelti, int nClasse, int nLimite = 0,
+                                  std::optional<eNucleo> nucleo = NucleoMigliore())
     {
         FileBinario file(m_Cartella / "Sviluppo.col", eApertura::scrittura);
         SviluppaColonne(Pronostico(aScelti), static_cast<std::int16_t>(nClasse),
-                        static_cast<std::int16_t>(nLimite), file, stato, avanzamento);
+                        static_cast<std::int16_t>(nLimite), file, stato, avanzamento, nucleo);
         file.Chiudi();
         return ColonneDelFile(m_Cartella / "Sviluppo.col");
     }

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace ordavel {
@@ -61,7 +62,7 @@ std::int64_t RichiesteDiSviluppo(const Condizioni& aCondizioni, int nScelti, Sta
     stato = prove::StatoDi(aCondizioni);
     stato.aQuadroRec(1) = {kVero, 1, 1};
     const std::int64_t nPrima = prove::RichiesteMemoria();
-    SviluppaColonne(aNumeri, 3, 2, file, stato, avanzamento);
+    SviluppaColonne(aNumeri, 3, 2, file, stato, avanzamento, std::nullopt); // the plain form
     return prove::RichiesteMemoria() - nPrima;
 }
 

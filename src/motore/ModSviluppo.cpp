@@ -5,6 +5,7 @@
 #include "motore/BufferColonne.hpp"
 #include "motore/ModIntegrali.hpp"
 #include "motore/ModVerifica.hpp"
+#include "motore/SviluppoBlocchi.hpp"
 
 #include <algorithm>
 
@@ -53,15 +54,24 @@ bool Aggiorna(double nTotale, StatoSviluppo& stato, Avanzamento& avanzamento)
     return true;
 }
 
-void SviluppaColonne(const NumeriScelti& aNumeri, std::int16_t nClasse, std::int16_t nLimite,
-                     FileBinario& file, StatoSviluppo& stato, Avanzamento& avanzamento)
+namespace {
+
+std::vector<std::uint8_t> Scelti(const NumeriScelti& aNumeri)
+{
+    const std::int16_t nScelti = ContaNumeri(aNumeri);
+    std::vector<std::uint8_t> aScelti;
+    aScelti.reserve(static_cast<std::size_t>(nScelti));
+    for (std::int16_t k = 1; k <= nScelti; ++k) {
+        aScelti.push_back(static_cast<std::uint8_t>(aNumeri[k]));
+    }
+    return aScelti;
+}
+
+/// Column by column: the definition.
+void SviluppaPiano(const NumeriScelti& aNumeri, std::int16_t nClasse, BufferColonne& buffer, double nTotale,
+                   StatoSviluppo& stato, Avanzamento& avanzamento)
 {
     Enumeratore enumeratore(aNumeri, nClasse);
-    // Two different columns share less than the class, so that a limit from there on thins nothing.
-    BufferColonne buffer(file, nClasse, nLimite < nClasse ? nLimite : std::int16_t{0});
-    const double nTotale = CalcolaIntegrali(ContaNumeri(aNumeri), nClasse);
-    stato.nSviluppate = 0;
-    stato.nCondizionate = 0;
     bool bAvanti = enumeratore.Presente();
     while (bAvanti) {
         Colonna& colonna = buffer.Candidata();
@@ -71,6 +81,30 @@ void SviluppaColonne(const NumeriScelti& aNumeri, std::int16_t nClasse, std::int
             buffer.Tieni(kColonneBuffer);
         }
         bAvanti = ContaEsaminata(nTotale, stato, avanzamento) && enumeratore.Avanza();
+    }
+}
+
+} // namespace
+
+void SviluppaColonne(const NumeriScelti& aNumeri, std::int16_t nClasse, std::int16_t nLimite,
+                     FileBinario& file, StatoSviluppo& stato, Avanzamento& avanzamento,
+                     std::optional<eNucleo> nucleo)
+{
+    if (nClasse < 1 || nClasse > kNumeriColonna) {
+        Solleva(eErrore::indice);
+    }
+    // Two different columns share less than the class, so that a limit from there on thins nothing.
+    BufferColonne buffer(file, nClasse, nLimite < nClasse ? nLimite : std::int16_t{0});
+    const double nTotale = CalcolaIntegrali(ContaNumeri(aNumeri), nClasse);
+    stato.nSviluppate = 0;
+    stato.nCondizionate = 0;
+    const std::vector<std::uint8_t> aScelti = Scelti(aNumeri);
+    if (nucleo && SviluppoBlocchi::Possibile(aScelti.size(), nClasse, stato)) {
+        const CorsaBlocchi corsa{
+            .aScelti = aScelti, .nClasse = nClasse, .nTotale = nTotale, .nucleo = *nucleo};
+        SviluppoBlocchi(corsa, buffer, stato, avanzamento).Esegui();
+    } else {
+        SviluppaPiano(aNumeri, nClasse, buffer, nTotale, stato, avanzamento);
     }
     buffer.ScriviResto();
     avanzamento.Mostra(stato.nSviluppate, stato.nCondizionate,

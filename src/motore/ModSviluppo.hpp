@@ -10,8 +10,10 @@
 
 #include "core/FileBinario.hpp"
 #include "core/ModNumeri.hpp"
+#include "core/ModProcessore.hpp"
 #include "motore/Avanzamento.hpp"
 
+#include <optional>
 #include <vector>
 
 namespace ordavel {
@@ -69,12 +71,14 @@ private:
 ///          file          open for writing, and empty
 ///          stato         compiled conditions; bStopSviluppo is read at each refresh
 ///          avanzamento   refreshed every 10000 columns examined, and at the end
+///          nucleo        inner loop of the block form; nothing for the plain form alone
 /// Gives    the kept columns behind the end of the file, also after a stop
 /// Changes  stato: counters of the run and of every condition
 /// Fails    6: more than 2147483647 columns examined; 9: class outside 1..20; 11: fewer picks than the class;
 ///          what VerificaColonna and writing raise. Blocks already written stay; the columns in the buffer are lost.
 void SviluppaColonne(const NumeriScelti& aNumeri, std::int16_t nClasse, std::int16_t nLimite,
-                     FileBinario& file, StatoSviluppo& stato, Avanzamento& avanzamento);
+                     FileBinario& file, StatoSviluppo& stato, Avanzamento& avanzamento,
+                     std::optional<eNucleo> nucleo = NucleoMigliore());
 
 /// A refresh: shows the counters, looks at the stop, and only then lets events run, so that a stop is seen one
 /// refresh after the events that set it.
