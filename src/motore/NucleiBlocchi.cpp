@@ -10,8 +10,6 @@ namespace ordavel {
 namespace {
 
 using Gruppo [[gnu::vector_size(kAffiancate * sizeof(std::uint64_t))]] = std::uint64_t;
-constexpr std::size_t kGruppiBassi = kPostiRiga / kAffiancate;
-constexpr std::size_t kGruppiAlti = kPostiAlti / kAffiancate;
 
 [[gnu::always_inline]] inline void Prendi(Gruppo& gruppo, const std::uint64_t* aParole)
 {

@@ -14,6 +14,8 @@ namespace ordavel {
 
 namespace {
 
+/// With more of them the room for states would be too small for each, and the plain form is faster.
+constexpr std::size_t kCondizioniBlocchi = 400;
 constexpr std::uint64_t kTuttiBit = ~std::uint64_t{0};
 
 eForma FormaDi(const RecordCondizione& record)
@@ -83,7 +85,8 @@ SviluppoBlocchi::Condizione::Condizione(Automa automaNuovo, std::size_t nRecordN
 bool SviluppoBlocchi::Possibile(std::size_t nScelti, std::int16_t nClasse, const StatoSviluppo& stato)
 {
     return nClasse >= kClasseMinima && nClasse <= kClasseMassima &&
-           nScelti <= static_cast<std::size_t>(kNumeroMassimo) && VerdettoBlocchi(stato).Possibile();
+           nScelti <= static_cast<std::size_t>(kNumeroMassimo) &&
+           stato.aCondizioni.size() <= kCondizioniBlocchi && VerdettoBlocchi(stato).Possibile();
 }
 
 SviluppoBlocchi::SviluppoBlocchi(const CorsaBlocchi& corsa, BufferColonne& buffer, StatoSviluppo& stato,
