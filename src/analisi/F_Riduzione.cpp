@@ -173,7 +173,7 @@ void F_Riduzione::Esegui()
             {.icona = eIcona::informazione,
              .sTitolo = {},
              .sTesto = "Fine" + std::string(kCrLf) +
-                       FormattaTempo(static_cast<std::int64_t>(ArrotondaPari(nSecondi))),
+                       FormattaTempo(static_cast<std::int64_t>(ArrotondaPari(static_cast<double>(nSecondi)))),
              .pulsanti = ePulsanti::ok});
     }
     if (m_bInterrotto) {

@@ -23,8 +23,8 @@ using Gruppo [[gnu::vector_size(kGruppo * sizeof(std::uint64_t))]] = std::uint64
 }
 
 template <std::size_t Coppie>
-[[gnu::always_inline]] inline void Giudica(const RigheFetta& aRighe, const SogliaFette& soglia,
-                                           Fetta& verdetti)
+[[gnu::always_inline]] inline void GiudicaPezzo(const RigheFetta& aRighe, const SogliaFette& soglia,
+                                                Fetta& verdetti)
 {
     constexpr std::size_t kCifre = CifreFette(Coppie);
     for (std::size_t nParola = 0; nParola < kParoleFetta; nParola += kGruppo) {
@@ -52,7 +52,7 @@ template <std::size_t Coppie>
     }
 }
 
-[[gnu::always_inline]] inline std::int32_t Conta(const Fetta& prima, const Fetta& seconda)
+[[gnu::always_inline]] inline std::int32_t ContaComuni(const Fetta& prima, const Fetta& seconda)
 {
     std::int32_t nQuante = 0;
     for (std::size_t nParola = 0; nParola < kParoleFetta; ++nParola) {
@@ -61,7 +61,7 @@ template <std::size_t Coppie>
     return nQuante;
 }
 
-[[gnu::always_inline]] inline void Accumula(const Fetta& fetta, ContatoriFetta& contatori)
+[[gnu::always_inline]] inline void AccumulaPezzo(const Fetta& fetta, ContatoriFetta& contatori)
 {
     for (std::size_t nParola = 0; nParola < kParoleFetta; nParola += kGruppo) {
         Gruppo riporto;
@@ -79,43 +79,46 @@ template <std::size_t Coppie>
 
 struct Comune {
     template <std::size_t Coppie>
-    static void giudica(const RigheFetta& aRighe, const SogliaFette& soglia, Fetta& verdetti)
+    static void Giudica(const RigheFetta& aRighe, const SogliaFette& soglia, Fetta& verdetti)
     {
-        Giudica<Coppie>(aRighe, soglia, verdetti);
+        GiudicaPezzo<Coppie>(aRighe, soglia, verdetti);
     }
-    static std::int32_t conta(const Fetta& prima, const Fetta& seconda) { return Conta(prima, seconda); }
-    static void accumula(const Fetta& fetta, ContatoriFetta& contatori) { Accumula(fetta, contatori); }
+    static std::int32_t Conta(const Fetta& prima, const Fetta& seconda)
+    {
+        return ContaComuni(prima, seconda);
+    }
+    static void Accumula(const Fetta& fetta, ContatoriFetta& contatori) { AccumulaPezzo(fetta, contatori); }
 };
 
 struct Avx2 {
     template <std::size_t Coppie>
-    ORDAVEL_AVX2 static void giudica(const RigheFetta& aRighe, const SogliaFette& soglia, Fetta& verdetti)
+    ORDAVEL_AVX2 static void Giudica(const RigheFetta& aRighe, const SogliaFette& soglia, Fetta& verdetti)
     {
-        Giudica<Coppie>(aRighe, soglia, verdetti);
+        GiudicaPezzo<Coppie>(aRighe, soglia, verdetti);
     }
-    ORDAVEL_AVX2 static std::int32_t conta(const Fetta& prima, const Fetta& seconda)
+    ORDAVEL_AVX2 static std::int32_t Conta(const Fetta& prima, const Fetta& seconda)
     {
-        return Conta(prima, seconda);
+        return ContaComuni(prima, seconda);
     }
-    ORDAVEL_AVX2 static void accumula(const Fetta& fetta, ContatoriFetta& contatori)
+    ORDAVEL_AVX2 static void Accumula(const Fetta& fetta, ContatoriFetta& contatori)
     {
-        Accumula(fetta, contatori);
+        AccumulaPezzo(fetta, contatori);
     }
 };
 
 struct Avx512 {
     template <std::size_t Coppie>
-    ORDAVEL_AVX512 static void giudica(const RigheFetta& aRighe, const SogliaFette& soglia, Fetta& verdetti)
+    ORDAVEL_AVX512 static void Giudica(const RigheFetta& aRighe, const SogliaFette& soglia, Fetta& verdetti)
     {
-        Giudica<Coppie>(aRighe, soglia, verdetti);
+        GiudicaPezzo<Coppie>(aRighe, soglia, verdetti);
     }
-    ORDAVEL_AVX512 static std::int32_t conta(const Fetta& prima, const Fetta& seconda)
+    ORDAVEL_AVX512 static std::int32_t Conta(const Fetta& prima, const Fetta& seconda)
     {
-        return Conta(prima, seconda);
+        return ContaComuni(prima, seconda);
     }
-    ORDAVEL_AVX512 static void accumula(const Fetta& fetta, ContatoriFetta& contatori)
+    ORDAVEL_AVX512 static void Accumula(const Fetta& fetta, ContatoriFetta& contatori)
     {
-        Accumula(fetta, contatori);
+        AccumulaPezzo(fetta, contatori);
     }
 };
 
@@ -123,7 +126,7 @@ template <typename Insieme> constexpr NucleiFette CreaNuclei()
 {
     return []<std::size_t... P>(std::index_sequence<P...>)
     {
-        return NucleiFette{{Insieme::template giudica<P + 1>...}, Insieme::conta, Insieme::accumula};
+        return NucleiFette{{Insieme::template Giudica<P + 1>...}, Insieme::Conta, Insieme::Accumula};
     }
     (std::make_index_sequence<kCoppieRighe>{});
 }
