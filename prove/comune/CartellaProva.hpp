@@ -24,6 +24,7 @@ public:
         static std::atomic<int> nProgressivo{0};
         m_Path = std::filesystem::temp_directory_path() /
                  ("ordavel-prova-" + std::to_string(getpid()) + "-" + std::to_string(nProgressivo++));
+        std::filesystem::remove_all(m_Path); // a process that was killed may have left one of that name
         std::filesystem::create_directories(m_Path);
     }
     CartellaProva(const CartellaProva&) = delete;
