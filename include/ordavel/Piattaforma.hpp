@@ -9,6 +9,7 @@
 #include "ordavel/errore.hpp"
 #include "ordavel/esporta.hpp"
 
+#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -97,6 +98,12 @@ public:
 
     /// Seconds since midnight, local time, with fractions.
     [[nodiscard]] virtual float SecondiDaMezzanotte() = 0;
+
+    /// A clock that never goes back, for how often things are shown. It is asked many times a millisecond.
+    [[nodiscard]] virtual std::chrono::steady_clock::time_point Adesso()
+    {
+        return std::chrono::steady_clock::now();
+    }
 
     /// The failure box: critical, titled with the operation that trapped the failure.
     void MostraFallimento(std::string_view sOrigine, const Errore& errore) override;

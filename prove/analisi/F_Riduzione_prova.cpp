@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+
 namespace ordavel {
 namespace {
 
@@ -175,6 +177,30 @@ TEST_F(Riduzione, DuranteLaCorsaSiPuoSoloFermare)
     EXPECT_EQ(m_Desktop.Messaggi().size(), 1U);
     dialogo.XPButton1_Click(1);
     EXPECT_FALSE(dialogo.Visibile.Valore());
+}
+
+TEST_F(Riduzione, GliEventiPassanoOgniTantoNonAOgniPasso)
+{
+    // Three steps of 10000 columns.
+    std::string sByte;
+    for (int n = 0; n < 30000; ++n) {
+        sByte += static_cast<char>(1 + n % 3);
+        sByte += "\x05\x06" + std::string(17, '\0');
+    }
+    prove::ScriviFile(m_sFile, sByte);
+    F_Riduzione dialogo(m_Ospite);
+    m_Desktop.Scegli(m_sFile);
+    dialogo.Command1_Click();
+    m_Desktop.nEventi = 0;
+    dialogo.XPButton1_Click(0);
+    EXPECT_EQ(m_Desktop.nEventi, 1 + 3)
+        << "una volta prima della corsa, poi a ogni passo, perché il tempo passa";
+    m_Desktop.adesso = [] { return std::chrono::steady_clock::time_point::max() - std::chrono::hours(1); };
+    m_Desktop.nEventi = 0;
+    dialogo.XPButton1_Click(0);
+    EXPECT_EQ(m_Desktop.nEventi, 1 + 1) << "il tempo sta fermo";
+    EXPECT_EQ(m_Desktop.Messaggi().size(), 2U);
+    static_cast<void>(m_Desktop.Dialoghi());
 }
 
 TEST_F(Riduzione, UnFileCambiatoDuranteLaCorsaValePerLaProssima)

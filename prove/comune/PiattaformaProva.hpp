@@ -9,6 +9,7 @@
 
 #include <gmock/gmock.h>
 
+#include <chrono>
 #include <deque>
 #include <functional>
 #include <initializer_list>
@@ -210,6 +211,12 @@ public:
         return nSecondi;
     }
 
+    std::chrono::steady_clock::time_point Adesso() override { return adesso(); }
+
+    /// The clock that decides how often things are shown; at first so much passes that it is always time.
+    std::function<std::chrono::steady_clock::time_point()> adesso = [ora = std::chrono::hours{0}]() mutable {
+        return std::chrono::steady_clock::time_point(++ora);
+    };
     std::function<void()> finestra;     ///< what happens while a box is shown
     std::function<void()> eventi;       ///< what happens whenever events are let run
     int nBeep = 0;                      ///< sounds

@@ -9,6 +9,7 @@ import comune
 from comune import Prova
 from definizioni import Verifica, in_byte, pari, peso, sistema, sviluppa
 
+VERSIONE = r"^ordavel \d+\.\d+\.\d+ \(nucleo (comune|avx2|avx512)\)\n$"
 COMANDI = ("crea", "mostra", "sviluppa", "filtra", "misura")
 
 
@@ -28,7 +29,7 @@ class Uso(Prova):
                     self.assertIn(parola, uscita)
 
     def test_versione_in_una_riga(self):
-        self.assertRegex(self.esegui("--version")[0], r"^ordavel \d+\.\d+\.\d+\n$")
+        self.assertRegex(self.esegui("--version")[0], VERSIONE)
 
     def test_uso_sbagliato(self):
         self.crea(sistema([1, 2, 3], 2))

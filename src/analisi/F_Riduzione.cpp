@@ -39,7 +39,10 @@ void F_Riduzione::AvanzamentoFinestra::MostraInterruzione()
 
 void F_Riduzione::AvanzamentoFinestra::LasciaEventi()
 {
-    m_Finestra.Ospite().Desktop().LasciaEventi();
+    Piattaforma& desktop = m_Finestra.Ospite().Desktop();
+    if (m_Eventi.Scaduta(desktop.Adesso())) {
+        desktop.LasciaEventi();
+    }
 }
 
 void F_Riduzione::AvanzamentoFinestra::MostraFallimento(std::string_view sOrigine, const Errore& errore)

@@ -6,6 +6,7 @@
 
 #pragma once
 
+#include "core/Cadenza.hpp"
 #include "editor/DialogoConferma.hpp"
 #include "riduzione/AvanzamentoRiduzione.hpp"
 #include "riduzione/LibreriaRiduzione.hpp"
@@ -61,6 +62,7 @@ private:
 
     private:
         F_Riduzione& m_Finestra;
+        Cadenza m_Eventi{kOgniEventi};
     };
 
     void LoadCmbRid();

@@ -38,17 +38,19 @@ std::string TestoBarra(const Avanzato& avanzato, std::int32_t nLarghezza)
     return sTesto;
 }
 
+BarraTerminale::BarraTerminale(bool bAccesa) : m_bAccesa(bAccesa), m_Cadenza(kOgni) {}
+
 void BarraTerminale::Inizia(double nTotale)
 {
     m_nTotale = nTotale;
-    m_Inizio = Orologio::now();
-    m_Prossima = m_Inizio + kPrimaVolta;
+    m_Inizio = Cadenza::Orologio::now();
+    m_Cadenza = Cadenza(kOgni, m_Inizio + kPrimaVolta);
 }
 
 void BarraTerminale::Aggiorna(double nFatte, double nTenute)
 {
-    const auto adesso = Orologio::now();
-    if (!m_bAccesa || adesso < m_Prossima) {
+    const auto adesso = Cadenza::Orologio::now();
+    if (!m_bAccesa || !m_Cadenza.Scaduta(adesso)) {
         return;
     }
     const double nSecondi = std::chrono::duration<double>(adesso - m_Inizio).count();
@@ -56,7 +58,6 @@ void BarraTerminale::Aggiorna(double nFatte, double nTenute)
     // One write: a bar that arrives in pieces flickers.
     std::cerr << "\r\x1b[K" + TestoBarra(avanzato, kLarghezza) << std::flush;
     m_bDisegnata = true;
-    m_Prossima = adesso + kOgni;
 }
 
 void BarraTerminale::Cancella()

@@ -2,7 +2,8 @@
 
 #pragma once
 
-#include <chrono>
+#include "core/Cadenza.hpp"
+
 #include <cstdint>
 #include <string>
 
@@ -23,10 +24,8 @@ struct Avanzato {
 /// Draws at most ten times a second, nothing in the first half second, and cleans up behind itself.
 class BarraTerminale {
 public:
-    using Orologio = std::chrono::steady_clock;
-
     /// Takes    bAccesa   whether to draw at all
-    explicit BarraTerminale(bool bAccesa) : m_bAccesa(bAccesa) {}
+    explicit BarraTerminale(bool bAccesa);
     BarraTerminale(const BarraTerminale&) = delete;
     BarraTerminale& operator=(const BarraTerminale&) = delete;
     ~BarraTerminale() { Cancella(); }
@@ -40,8 +39,8 @@ private:
     bool m_bAccesa;
     bool m_bDisegnata = false;
     double m_nTotale = 0;
-    Orologio::time_point m_Inizio;
-    Orologio::time_point m_Prossima;
+    Cadenza::Istante m_Inizio;
+    Cadenza m_Cadenza;
 };
 
 } // namespace ordavel::cli

@@ -13,6 +13,7 @@
 #include "condizioni/ModCatalogo.hpp"
 #include "core/ModFunzGeneriche.hpp"
 #include "core/ModGiochi.hpp"
+#include "core/ModProcessore.hpp"
 #include "core/ModTesti.hpp"
 
 #include <CLI/CLI.hpp>
@@ -270,10 +271,21 @@ void AggiungiGaranzia(CLI::App& programma, Riga& riga)
     comando->callback([&riga] { riga.azione = [&riga] { return Garanzia(riga.garanzia); }; });
 }
 
+/// The name of the instruction set that loops run with; the environment may ask for one that there is not.
+std::string Nucleo()
+{
+    try {
+        return std::string(NomeNucleo(NucleoMigliore()));
+    } catch (const Errore& errore) {
+        throw UsoErrato(errore.Descrizione());
+    }
+}
+
 void AggiungiComandi(CLI::App& programma, Riga& riga)
 {
     TraduciAiuto(programma);
-    programma.set_version_flag("--version", "ordavel " ORDAVEL_VERSIONE, "Mostra la versione");
+    const auto versione = [] { return "ordavel " ORDAVEL_VERSIONE " (nucleo " + Nucleo() + ")"; };
+    programma.set_version_flag("--version", versione, "Mostra la versione e il nucleo di calcolo");
     programma.footer(kChiusura);
     AggiungiCrea(programma, riga);
     AggiungiMostra(programma, riga);
@@ -347,6 +359,7 @@ eUscita Interpreta(CLI::App& programma, Riga& riga, int nArgomenti, const char* 
         throw UsoErrato("manca il comando");
     }
     ControllaParole(programma.get_subcommands().front()->get_name(), riga);
+    static_cast<void>(Nucleo()); // refused before any work, also by commands that count nothing
     return riga.azione();
 }
 

@@ -3,6 +3,7 @@
 #include "ordavel/Ordavel.hpp"
 
 #include "controllo/F_Progress.hpp"
+#include "core/Cadenza.hpp"
 #include "core/FileBinario.hpp"
 #include "core/ModFunzGeneriche.hpp"
 #include "core/ModGestore.hpp"
@@ -93,7 +94,7 @@ private:
         return bContinua;
     }
 
-    /// One line more: shows how far it is and lets events run. A stop that comes inside them is seen at the next
+    /// One line more: shows how far it is and lets events run, both now and then. A stop that comes inside them is seen at the next
     /// line.
     /// Gives    false when the export is to end
     bool Avanza()
@@ -102,16 +103,23 @@ private:
         if (m_nRighe % kRigheSenzaProgresso == 0) {
             return true;
         }
-        Mostra(PercentualeProgress(static_cast<double>(m_nRighe), static_cast<double>(m_nColonne)));
+        const auto adesso = m_Ordavel.m_Piattaforma.Adesso();
+        if (m_Mostra.Scaduta(adesso) || m_nRighe == m_nColonne) {
+            Mostra(PercentualeProgress(static_cast<double>(m_nRighe), static_cast<double>(m_nColonne)));
+        }
         if (m_Ordavel.m_StopExport) {
             return false;
         }
-        m_Ordavel.m_Piattaforma.LasciaEventi();
+        if (m_Eventi.Scaduta(adesso)) {
+            m_Ordavel.m_Piattaforma.LasciaEventi();
+        }
         return true;
     }
 
     Ordavel& m_Ordavel;
     F_Progress m_Progress;
+    Cadenza m_Mostra{kOgniMostra};
+    Cadenza m_Eventi{kOgniEventi};
     std::string m_sBuffer;
     std::int64_t m_nColonne = 0; ///< in the working file
     std::int64_t m_nRighe = 0;   ///< made so far

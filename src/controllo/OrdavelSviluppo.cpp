@@ -2,6 +2,7 @@
 
 #include "ordavel/Ordavel.hpp"
 
+#include "core/Cadenza.hpp"
 #include "core/ModFunzGeneriche.hpp"
 #include "core/ModGestore.hpp"
 #include "core/ModNumeri.hpp"
@@ -52,26 +53,58 @@ RichiestaSviluppo Richiesta(Ordavel& ordavel, std::int16_t nClasse, const std::s
 } // namespace
 
 /// A run's refreshes, on labels and bar.
+///
+/// Refreshes may come every few microseconds: they are shown, and events run, only now and then.
 class Ordavel::AvanzamentoPannello : public Avanzamento {
 public:
     explicit AvanzamentoPannello(Ordavel& ordavel) : m_Ordavel(ordavel) {}
 
     void Mostra(std::int32_t nSviluppate, std::int32_t nCondizionate, std::int16_t nPercentuale) override
     {
-        m_Ordavel.m_Controlli.LabSviluppate.Testo.Poni(FormattaNumero(nSviluppate));
-        m_Ordavel.m_Controlli.LabCondizionate.Testo.Poni(FormattaNumero(nCondizionate));
-        m_Ordavel.m_Controlli.ProgBarXP1.Valore.Poni(nPercentuale);
+        m_Ultimo = {.nSviluppate = nSviluppate, .nCondizionate = nCondizionate, .nPercentuale = nPercentuale};
+        m_bDaMostrare = true;
+        if (m_Mostra.Scaduta(m_Ordavel.m_Piattaforma.Adesso())) {
+            MostraUltimo();
+        }
     }
 
-    void LasciaEventi() override { m_Ordavel.m_Piattaforma.LasciaEventi(); }
+    void LasciaEventi() override
+    {
+        if (m_Eventi.Scaduta(m_Ordavel.m_Piattaforma.Adesso())) {
+            m_Ordavel.m_Piattaforma.LasciaEventi();
+        }
+    }
 
     void MostraFallimento(std::string_view sOrigine, const Errore& errore) override
     {
+        MostraUltimo();
         m_Ordavel.m_Piattaforma.MostraFallimento(sOrigine, errore);
     }
 
+    /// The figures of the last refresh, which nobody may have seen yet. A run ends with this.
+    void MostraUltimo()
+    {
+        if (!m_bDaMostrare) {
+            return;
+        }
+        m_bDaMostrare = false;
+        m_Ordavel.m_Controlli.LabSviluppate.Testo.Poni(FormattaNumero(m_Ultimo.nSviluppate));
+        m_Ordavel.m_Controlli.LabCondizionate.Testo.Poni(FormattaNumero(m_Ultimo.nCondizionate));
+        m_Ordavel.m_Controlli.ProgBarXP1.Valore.Poni(m_Ultimo.nPercentuale);
+    }
+
 private:
+    struct Figure {
+        std::int32_t nSviluppate = 0;
+        std::int32_t nCondizionate = 0;
+        std::int16_t nPercentuale = 0;
+    };
+
     Ordavel& m_Ordavel;
+    Cadenza m_Mostra{kOgniMostra};
+    Cadenza m_Eventi{kOgniEventi};
+    Figure m_Ultimo;
+    bool m_bDaMostrare = false; ///< m_Ultimo is not on show yet
 };
 
 /// The panel of a run is visible, and no second run may begin, for as long as it lives.
@@ -226,6 +259,7 @@ void Ordavel::SviluppaCondizionato()
     AvanzamentoPannello avanzamento(*this);
     m_ColonneValide = InitSviluppoSistCondizionato(Richiesta(*this, classe(), m_FileColonne), GetNumeriSel(),
                                                    m_Stato, avanzamento);
+    avanzamento.MostraUltimo();
     ApriFileColonne(m_FileColonne);
     AbilitaComandiSviluppo(false);
 }
@@ -255,6 +289,7 @@ void Ordavel::SviluppaCondizionatoDaFileColonne(const std::string& sFileColonne)
         AvanzamentoPannello avanzamento(*this);
         m_ColonneValide = InitSviluppoSistCondizionato(Richiesta(*this, nClasse, sDestinazione), sOrigine,
                                                        m_Stato, avanzamento);
+        avanzamento.MostraUltimo();
         ApriFileColonne(sDestinazione);
         AbilitaComandiSviluppo(false);
     });

@@ -4,6 +4,7 @@
 
 #include "condizioni/ModCompila.hpp"
 #include "core/ModGestore.hpp"
+#include "core/ModProcessore.hpp"
 #include "motore/ModFiltro.hpp"
 #include "motore/ModSviluppo.hpp"
 
@@ -17,6 +18,7 @@ bool Esegui(const RichiestaSviluppo& richiesta, StatoSviluppo& stato, Avanzament
 {
     return ConGestore(avanzamento, "ModSistemiCond.InitSviluppoSistCondizionato",
                       [&] {
+                          static_cast<void>(NucleoMigliore()); // fails before anything is touched
                           stato.aCondizioni.assign(1, RecordCondizione{});
                           stato.bStopSviluppo = false;
                           FileBinario file(richiesta.sFile, eApertura::scrittura);

@@ -2,6 +2,7 @@
 
 #include "riduzione/ModRiduci.hpp"
 
+#include "core/Cadenza.hpp"
 #include "core/ModFunzGeneriche.hpp"
 #include "core/ModGestore.hpp"
 #include "core/ModNumeri.hpp"
@@ -9,13 +10,10 @@
 #include "persistenza/ModFileColonne.hpp"
 
 #include <algorithm>
-#include <chrono>
 
 namespace ordavel {
 
 namespace {
-
-using Orologio = std::chrono::steady_clock;
 
 /// Without events a user waits no longer than this, give or take a step.
 constexpr std::chrono::milliseconds kPausaEventi{50};
@@ -51,7 +49,7 @@ private:
     const ProblemaRiduzione& m_Problema;
     const StatoRiduzione& m_Stato;
     AvanzamentoRiduzione& m_Avanzamento;
-    Orologio::time_point m_UltimiEventi = Orologio::now();
+    Cadenza m_Eventi{kPausaEventi, Cadenza::Orologio::now() + kPausaEventi};
     std::unique_ptr<Copertura> m_Copertura;
     std::vector<RecordRiduzione> m_aRecord; ///< in file order, then sorted
     std::vector<bool> m_aScelte;            ///< by sorted place, from 0
@@ -98,14 +96,14 @@ std::vector<std::uint32_t> Riduzione::Candidati(std::int32_t nLivello)
 void Riduzione::LasciaEventi()
 {
     m_Avanzamento.LasciaEventi();
-    m_UltimiEventi = Orologio::now();
+    m_Eventi.Riparti(Cadenza::Orologio::now());
 }
 
 /// Lets events run now and then.
 /// Gives    false once the reduction is stopped
 bool Riduzione::Avanti()
 {
-    if (Orologio::now() - m_UltimiEventi >= kPausaEventi) {
+    if (m_Eventi.Scaduta(Cadenza::Orologio::now())) {
         LasciaEventi();
     }
     return !m_Stato.StopRiduzione;
