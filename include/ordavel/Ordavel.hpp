@@ -26,6 +26,7 @@
 #pragma once
 
 #include "ordavel/ArchivioProprieta.hpp"
+#include "ordavel/ContaSistema.hpp"
 #include "ordavel/ControlliOrdavel.hpp"
 #include "ordavel/GrigliaCondizioni.hpp"
 #include "ordavel/Piattaforma.hpp"
@@ -275,6 +276,14 @@ public:
 
     /// What the last run compiled and counted.
     [[nodiscard]] const StatoSviluppo& UltimoSviluppo() const noexcept { return m_Stato; }
+
+    /// The system as it stands, also during a run, for a count in any thread; ContaSistema.hpp says what it looks at.
+    /// Fails    what compiling raises; 6, 9, 57, 70, 75: the file of the draws
+    [[nodiscard]] SistemaDaContare PreparaConteggio() const;
+    /// Counts it here. Shows nothing, asks nothing, writes nothing; fails as both do, and with 9 without a class.
+    [[nodiscard]] std::optional<ConteggioSistema> ContaSistema(const OpzioniConteggio& opzioni = {},
+                                                               const ContoAnnullato& annullato = {},
+                                                               const StimaPronta& stima = {}) const;
 
     // ---- columns ----
 

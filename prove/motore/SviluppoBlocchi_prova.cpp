@@ -6,6 +6,7 @@
 #include "comune/GeneratoriSistema.hpp"
 #include "comune/RecordProva.hpp"
 #include "condizioni/ModCompila.hpp"
+#include "motore/CorsaCasuale.hpp"
 #include "motore/CorsaProva.hpp"
 
 #include <gmock/gmock.h>
@@ -16,7 +17,11 @@
 namespace ordavel {
 namespace {
 
+using prove::Corsa;
+using prove::CorsaCasuale;
 using prove::CorsaProva;
+using prove::Nuclei;
+using prove::SceltiCasuali;
 using prove::Tra;
 
 /// All that a run leaves.
@@ -26,19 +31,6 @@ struct Lasciato {
     std::vector<prove::Aggiornamento> aMostrati;
     int nEventi = 0;
     std::optional<int> nErrore;
-
-    friend bool operator==(const Lasciato&, const Lasciato&) = default;
-};
-
-/// What a run is made of.
-struct Corsa {
-    std::vector<int> aScelti;
-    int nClasse = 0;
-    int nLimite = 0;
-    std::vector<RecordCondizione> aCondizioni;
-    QuadroRecuperi aQuadro;
-    RigheEmulatore aEmulatore;
-    int nStop = 0; ///< event at which the user stops, 0 for none
 };
 
 Lasciato Esegui(const Corsa& corsa, std::optional<eNucleo> nucleo)
@@ -54,16 +46,6 @@ Lasciato Esegui(const Corsa& corsa, std::optional<eNucleo> nucleo)
     lasciato.aMostrati = prova.avanzamento.aMostrati;
     lasciato.nEventi = prova.avanzamento.nEventi;
     return lasciato;
-}
-
-/// The instruction sets of this processor.
-std::vector<eNucleo> Nuclei()
-{
-    std::vector<eNucleo> aNuclei;
-    for (int n = 0; n <= static_cast<int>(NucleoMigliore()); ++n) {
-        aNuclei.push_back(static_cast<eNucleo>(n));
-    }
-    return aNuclei;
 }
 
 void Confronta(const Corsa& corsa, eNucleo nucleo)
@@ -84,45 +66,6 @@ void Confronta(const Corsa& corsa, eNucleo nucleo)
     }
 }
 
-std::vector<int> SceltiCasuali(int nQuanti)
-{
-    auto aScelti =
-        *rc::gen::unique<std::vector<int>>(static_cast<std::size_t>(nQuanti), rc::gen::inRange(1, 91));
-    std::ranges::sort(aScelti);
-    return aScelti;
-}
-
-/// So many picks that a run has some thousand columns at most.
-int QuantiScelti(int nClasse)
-{
-    return Tra(nClasse, nClasse + (nClasse <= 3 ? 25 : nClasse <= 5 ? 9 : 6));
-}
-
-RigheEmulatore EstrazioniCasuali()
-{
-    std::vector<RigaEmulatore> aRighe(static_cast<std::size_t>(Tra(1, 70)));
-    for (RigaEmulatore& aRiga : aRighe) {
-        for (int n = 0; n < 12; ++n) {
-            aRiga(Tra(1, 90)) = 1;
-        }
-    }
-    return RigheEmulatore(std::move(aRighe));
-}
-
-Corsa CorsaCasuale(int nMassime)
-{
-    Corsa corsa;
-    corsa.nClasse = Tra(2, 10);
-    corsa.aScelti = SceltiCasuali(QuantiScelti(corsa.nClasse));
-    corsa.nLimite = Tra(0, corsa.nClasse);
-    const auto nClasse = static_cast<std::int16_t>(corsa.nClasse);
-    const auto aRighe = *prove::GenCondizioni(nClasse, nMassime);
-    LeggiCondizioniDaGriglia(corsa.aCondizioni, prove::GrigliaDi(aRighe), *prove::GenQuadro(), corsa.aQuadro);
-    EstendiRecuperiSequenze(corsa.aCondizioni);
-    corsa.aEmulatore = EstrazioniCasuali();
-    return corsa;
-}
-
 RC_GTEST_PROP(SviluppoBlocchi, UnaCondizioneSolaComeLaFormaPiana, ())
 {
     Confronta(CorsaCasuale(1), *rc::gen::elementOf(Nuclei()));
@@ -131,6 +74,13 @@ RC_GTEST_PROP(SviluppoBlocchi, UnaCondizioneSolaComeLaFormaPiana, ())
 RC_GTEST_PROP(SviluppoBlocchi, SistemiInteriComeLaFormaPiana, ())
 {
     Confronta(CorsaCasuale(40), *rc::gen::elementOf(Nuclei()));
+}
+
+RC_GTEST_PROP(SviluppoBlocchi, SistemiGuastiComeLaFormaPiana, ())
+{
+    Corsa corsa = CorsaCasuale(3);
+    prove::Guasta(corsa.aCondizioni);
+    Confronta(corsa, *rc::gen::elementOf(Nuclei()));
 }
 
 RC_GTEST_PROP(SviluppoBlocchi, AggiornamentiEStopComeLaFormaPiana, ())
@@ -155,7 +105,7 @@ RC_GTEST_PROP(SviluppoBlocchi, ConPocoPostoPerGliStatiComeLaFormaPiana, ())
     stato.aQuadroRec = corsa.aQuadro;
     stato.aEmulatore = corsa.aEmulatore;
     prove::AvanzamentoProva avanzamento;
-    RC_PRE(SviluppoBlocchi::Possibile(aScelti.size(), nClasse, stato));
+    RC_PRE(BlocchiPossibili(aScelti.size(), nClasse, stato));
     const CorsaBlocchi blocchi{.aScelti = aScelti,
                                .nClasse = nClasse,
                                .nTotale = 1,

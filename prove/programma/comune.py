@@ -33,6 +33,18 @@ def avvia():
     unittest.main(verbosity=2)
 
 
+def leggi_terminale(capo, fine):
+    """What a terminal shows, until `fine` says of all of it that it is enough or its other end is closed."""
+    testo = ""
+    while not fine(testo):
+        try:
+            pezzo = os.read(capo, 65536)
+        except OSError:
+            break
+        testo += pezzo.decode()
+    return testo
+
+
 class Prova(unittest.TestCase):
     """A test with a folder, where the program works, and a temporary folder, which must stay empty."""
 

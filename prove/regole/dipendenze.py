@@ -25,6 +25,7 @@ CASA = {
     "RigheEmulatore.hpp": "core",
     "StatoSviluppo.hpp": "core",
     "GrigliaCondizioni.hpp": "condizioni",
+    "ContaSistema.hpp": "motore",
     "ArchivioProprieta.hpp": "piattaforma",
     "Controlli.hpp": "piattaforma",
     "Dialogo.hpp": "piattaforma",

@@ -150,6 +150,12 @@ void ControllaCorsa(const Riga& riga)
     ControllaRuota(riga.corsa.sRuota);
 }
 
+void ControllaConta(const Riga& riga)
+{
+    ControllaGioco(riga.conta.sGioco);
+    ControllaRuota(riga.conta.sRuota);
+}
+
 /// The winning numbers, between points.
 void LeggiVincente(Riga& riga)
 {
@@ -242,6 +248,7 @@ void ControllaParole(const std::string& sComando, Riga& riga)
         {"sviluppa", [](Riga& r) { ControllaCorsa(r); }},
         {"filtra", [](Riga& r) { ControllaCorsa(r); }},
         {"effetto", [](Riga& r) { ControllaCorsa(r); }},
+        {"conta", [](Riga& r) { ControllaConta(r); }},
         {"spoglio", [](Riga& r) { LeggiVincente(r); }},
         {"archivio", [](Riga& r) { ControllaArchivio(r.archivio.sGioco); }},
         {"aggiungi", [](Riga& r) { ControllaAggiungi(r); }},

@@ -6,6 +6,7 @@
 #include "cli/Archivio.hpp"
 #include "cli/Colonne.hpp"
 #include "cli/Comandi.hpp"
+#include "cli/Conta.hpp"
 #include "cli/Modifiche.hpp"
 #include "cli/Riduci.hpp"
 
@@ -25,6 +26,7 @@ public:
 /// The words of all commands, and what the one that was given does.
 struct Riga {
     OpzioniCorsa corsa;
+    OpzioniConta conta;
     OpzioniAggiungi aggiungi;
     OpzioniRighe righe;
     OpzioniQuadro quadro;

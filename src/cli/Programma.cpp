@@ -6,6 +6,7 @@
 #include "cli/Archivio.hpp"
 #include "cli/Colonne.hpp"
 #include "cli/Comandi.hpp"
+#include "cli/Conta.hpp"
 #include "cli/ControlloParole.hpp"
 #include "cli/Modifiche.hpp"
 #include "cli/PiattaformaCli.hpp"
@@ -34,6 +35,7 @@ constexpr const char* kChiusura =
     "\nUn esempio:\n"
     "  ordavel crea esempi/superenalotto.json sistema.sic\n"
     "  ordavel mostra sistema.sic\n"
+    "  ordavel conta sistema.sic\n"
     "  ordavel sviluppa sistema.sic -o colonne.col\n"
     "  ordavel filtra altro.sic --da colonne.col -o meno.col\n"
     "  ordavel misura 5 3 12 27 28 90\n"
@@ -100,6 +102,18 @@ CLI::App* AggiungiCorsa(CLI::App& programma, Riga& riga, const std::string& sNom
     AggiungiGioco(*comando, riga.corsa.sGioco, riga.corsa.sArchivio, riga.corsa.sRuota);
     comando->callback([&riga] { riga.azione = [&riga] { return Corri(riga.corsa); }; });
     return comando;
+}
+
+void AggiungiConta(CLI::App& programma, Riga& riga)
+{
+    OpzioniConta& opzioni = riga.conta;
+    CLI::App* comando = NuovoComando(programma, "conta", "Conta le colonne che passano, senza svilupparle");
+    comando->add_option("SISTEMA", opzioni.sSistema, "Il file .sic")->required();
+    comando->add_flag("--solo-stima", opzioni.bSoloStima,
+                      "Non aspetta il conto esatto, quando è lungo: bastano le stime");
+    comando->add_flag("--json", opzioni.bJson, "Come oggetto JSON");
+    AggiungiGioco(*comando, opzioni.sGioco, opzioni.sArchivio, opzioni.sRuota);
+    comando->callback([&riga] { riga.azione = [&riga] { return Conta(riga.conta); }; });
 }
 
 void AggiungiEffetto(CLI::App& programma, Riga& riga)
@@ -293,6 +307,7 @@ void AggiungiComandi(CLI::App& programma, Riga& riga)
     AggiungiCorsa(programma, riga, "filtra", "Filtra un file di colonne con le condizioni di un sistema")
         ->add_option("--da", riga.corsa.sOrigine, "Il file .col da filtrare")
         ->required();
+    AggiungiConta(programma, riga);
     AggiungiMisura(programma, riga);
     AggiungiAggiungi(programma, riga);
     AggiungiTogli(programma, riga);

@@ -82,6 +82,18 @@ const VoceCatalogo* TrovaTipo(TipoCondizione tipo) noexcept
     return nTipo < 1 || nTipo > kTipiCondizione ? nullptr : &kCatalogo[static_cast<std::size_t>(nTipo) - 1];
 }
 
+eForma FormaDiTipo(TipoCondizione tipo) noexcept
+{
+    const VoceCatalogo* voce = TrovaTipo(tipo);
+    return voce == nullptr ? eForma::nessuna : voce->forma;
+}
+
+bool SiMisura(TipoCondizione tipo) noexcept
+{
+    const eForma forma = FormaDiTipo(tipo);
+    return forma != eForma::nessuna && forma != eForma::link;
+}
+
 const VoceCatalogo* TrovaChiave(std::string_view sChiave) noexcept
 {
     const auto* voce = std::find_if(kCatalogo.begin(), kCatalogo.end(),

@@ -70,6 +70,12 @@ struct VoceCatalogo {
 /// The row of a kind; nullptr for a number that no kind has.
 [[nodiscard]] const VoceCatalogo* TrovaTipo(TipoCondizione tipo) noexcept;
 
+/// The shape in which a kind is compared; eForma::nessuna for a number that no kind has.
+[[nodiscard]] eForma FormaDiTipo(TipoCondizione tipo) noexcept;
+
+/// Is there something to measure? Not in links, nor in kinds that every column satisfies.
+[[nodiscard]] bool SiMisura(TipoCondizione tipo) noexcept;
+
 /// The row of a key, letter case included; nullptr when no kind has it.
 [[nodiscard]] const VoceCatalogo* TrovaChiave(std::string_view sChiave) noexcept;
 

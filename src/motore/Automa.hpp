@@ -1,80 +1,51 @@
-// Automa.hpp - a condition as an automaton over the picks, with masks of what follows a beginning.
+// Automa.hpp - a condition as an automaton over the picks: what follows a beginning, and how much of it.
 //
 // Words. «place»: index of a pick, from 0. «mask»: one bit for each place, place 0 the highest (bit picks - 1), so that
 // a low word serves all places but the first few of many picks. «row»: the masks that follow a beginning of class - 2
 // numbers, one for each place of the next-to-last number; each holds the places of the last number, all of them above.
 //
-// States are made when they are first asked for. Each keeps a beginning that leads to it; the verdicts are those of
-// the plain form on that beginning, so that nothing is worked out twice and nothing is defined twice.
+// All states are made once, length by length. Each keeps a beginning that leads to it; the verdicts are those of the
+// plain form on that beginning, so that nothing is worked out twice and nothing is defined twice. From them the counts
+// follow backwards: how many columns behind a state pass and recover, when all further numbers come from some place on.
+// Rows are made when they are first asked for.
 
 #pragma once
 
 #include "ordavel/StatoSviluppo.hpp"
 
+#include "motore/Maschera.hpp"
 #include "motore/ModChiavi.hpp"
 
-#include <array>
-#include <cstddef>
-#include <cstdint>
 #include <deque>
-#include <memory>
+#include <functional>
+#include <limits>
 #include <span>
 #include <unordered_map>
 #include <vector>
 
 namespace ordavel {
 
-/// A mask in two words: the places from the 65th last on, and the last 64.
-struct Maschera {
-    std::uint64_t nAlta = 0;
-    std::uint64_t nBassa = 0;
+/// How many columns there are of a kind.
+struct Conti {
+    std::uint64_t nOk = 0;  ///< that pass
+    std::uint64_t nRec = 0; ///< inside the recovery zone; of kind 17 only those that do not pass
 
-    [[nodiscard]] bool Vuota() const noexcept { return (nAlta | nBassa) == 0; }
-    [[nodiscard]] friend constexpr Maschera operator&(Maschera a, Maschera b) noexcept
+    [[nodiscard]] friend Conti operator+(Conti a, Conti b) noexcept
     {
-        return {a.nAlta & b.nAlta, a.nBassa & b.nBassa};
+        return {a.nOk + b.nOk, a.nRec + b.nRec};
     }
+    [[nodiscard]] friend Conti operator-(Conti a, Conti b) noexcept
+    {
+        return {a.nOk - b.nOk, a.nRec - b.nRec};
+    }
+    [[nodiscard]] friend bool operator==(Conti, Conti) = default;
 };
 
-/// The bit of a place among nScelti picks.
-[[nodiscard]] constexpr Maschera BitDelPosto(std::size_t nScelti, std::size_t nPosto) noexcept
-{
-    const std::size_t nBit = nScelti - 1 - nPosto;
-    return nBit >= 64 ? Maschera{std::uint64_t{1} << (nBit - 64), 0} : Maschera{0, std::uint64_t{1} << nBit};
-}
-
-/// All places above one.
-[[nodiscard]] constexpr Maschera PostiSopra(std::size_t nScelti, std::size_t nPosto) noexcept
-{
-    const std::size_t nBit = nScelti - 1 - nPosto; // so many places stand above
-    const auto sotto = [](std::size_t n) {
-        return n >= 64 ? ~std::uint64_t{0} : (std::uint64_t{1} << n) - 1;
-    };
-    return {nBit > 64 ? sotto(nBit - 64) : 0, sotto(nBit)};
-}
-
-/// Eight places of next-to-last numbers are looked at together, from any place on: so much stands behind the last.
-inline constexpr std::size_t kAffiancate = 8;
-inline constexpr std::size_t kPostiRiga = 96 + kAffiancate;
-/// Places of which the high word can hold anything: with 90 picks, those up to 25.
-inline constexpr std::size_t kPostiAlti = 32 + kAffiancate;
-
-/// Masks that follow a beginning, by place of the next-to-last number.
-struct MaschereRiga {
-    std::array<std::uint64_t, kPostiRiga> aBasse{};
-    std::array<std::uint64_t, kPostiAlti> aAlte{};
-
-    void Poni(std::size_t nPosto, Maschera maschera) noexcept
-    {
-        aBasse[nPosto] = maschera.nBassa;
-        if (nPosto < kPostiAlti) {
-            aAlte[nPosto] = maschera.nAlta;
-        }
-    }
-    [[nodiscard]] Maschera operator[](std::size_t nPosto) const noexcept
-    {
-        return {nPosto < kPostiAlti ? aAlte[nPosto] : 0, aBasse[nPosto]};
-    }
+/// What the last number decides: the places of it that pass, recover and fail.
+struct Verdetti {
+    Maschera ok;
+    Maschera rec;
+    Maschera rotti;
 };
 
 struct RigaAutoma {
@@ -86,13 +57,15 @@ struct RigaAutoma {
 
 class Automa {
 public:
+    /// May the work go on? Asked every few microseconds.
+    using Continua = std::function<bool()>;
+
     /// Takes    record     a condition that is no link
     ///          nClasse    2..10
     ///          aScelti    the picks, ascending, at most 90
     ///          stato      draws of the emulator
-    ///          nByte      what the states may take; beyond that no more are kept
     Automa(const RecordCondizione& record, std::int16_t nClasse, std::span<const std::uint8_t> aScelti,
-           const StatoSviluppo& stato, std::size_t nByte);
+           const StatoSviluppo& stato);
 
     Automa(Automa&&) = default;
     Automa& operator=(Automa&&) = default;
@@ -100,69 +73,119 @@ public:
     Automa& operator=(const Automa&) = delete;
     ~Automa() = default;
 
-    /// Are there states? Otherwise a row is made for a beginning, not for a state. Once there are too many of them, there
-    /// are none any more.
-    [[nodiscard]] bool ConStati() const noexcept
-    {
-        return m_Forma != eChiave::nessuna && m_nByte <= m_nByteMassimi;
-    }
+    /// Makes the states and the counts. There are none afterwards when the kind has no key, or when they would take too
+    /// much.
+    /// Takes    nByte      what states, counts and verdicts may take
+    /// Gives    false when it was not to go on; the automaton is then without states
+    [[nodiscard]] bool Prepara(
+        std::size_t nByte, const Continua& continua = [] { return true; });
+
+    /// Are there states? Otherwise a row is made for a beginning, not for a state.
+    [[nodiscard]] bool ConStati() const noexcept { return !m_aLivelli.empty(); }
 
     /// The state before any number.
     static constexpr std::uint32_t kIniziale = 0;
 
-    /// The state behind one more number.
-    [[nodiscard]] std::uint32_t Passo(std::uint32_t nStato, std::size_t nPosto)
+    /// The state behind one more number, as long as less than class - 1 are there.
+    /// Takes    nPosto   above those of the beginning, with places enough above for the numbers that are missing
+    [[nodiscard]] std::uint32_t Passo(std::uint32_t nStato, std::size_t nPosto) const noexcept
     {
-        const std::uint32_t nDopo = m_aPassi[nStato * m_aScelti.size() + nPosto];
-        return nDopo != kIgnoto ? nDopo : NuovoPasso(nStato, nPosto);
+        return m_aPassi[nStato * m_aScelti.size() + nPosto];
+    }
+
+    /// Columns behind a state whose further numbers all come from nPosto on, a place above those of the beginning.
+    [[nodiscard]] Conti ContiDa(std::uint32_t nStato, std::size_t nPosto) const noexcept
+    {
+        if (nStato >= m_aLivelli.back()) {
+            const Maschera posti = PostiDa(m_aScelti.size(), nPosto);
+            const Verdetti& verdetti = VerdettiDi(nStato);
+            return {QuantiBit(verdetti.ok & posti), QuantiBit(verdetti.rec & posti)};
+        }
+        const std::size_t n = nStato * (m_aScelti.size() + 1) + nPosto;
+        return {m_aOk[n], m_aRec.empty() ? 0 : m_aRec[n]};
+    }
+    /// Those of them that pass, behind less than class - 1 numbers.
+    [[nodiscard]] std::uint64_t OkDa(std::uint32_t nStato, std::size_t nPosto) const noexcept
+    {
+        return m_aOk[nStato * (m_aScelti.size() + 1) + nPosto];
+    }
+
+    /// Does one of those columns fail?
+    [[nodiscard]] bool RottiDa(std::uint32_t nStato, std::size_t nPosto) const noexcept
+    {
+        return nPosto < m_aRottiFino[nStato];
+    }
+
+    /// What the last number decides behind a state of class - 1 numbers. Valid for places above those of the beginning.
+    [[nodiscard]] const Verdetti& VerdettiDi(std::uint32_t nStato) const noexcept
+    {
+        return m_aVerdetti[nStato - m_aLivelli.back()];
     }
 
     /// The row of a state behind class - 2 numbers.
     [[nodiscard]] const RigaAutoma& Riga(std::uint32_t nStato)
     {
-        const RigaAutoma* riga = m_aRighe[nStato];
+        const RigaAutoma* riga = m_aRighe[nStato - m_aLivelli[Livelli() - 2]];
         return riga != nullptr ? *riga : NuovaRiga(nStato);
     }
 
-    /// The row of a beginning of class - 2 numbers whose last place is nUltimo (from -1 for none), for a kind without
-    /// states. It stays until the next call.
-    [[nodiscard]] const RigaAutoma& RigaDi(const Colonna& inizio, std::ptrdiff_t nUltimo);
+    /// The row of a beginning of class - 2 numbers whose last place is in front of nPrimo, for a kind without states.
+    /// It stays until the next call.
+    [[nodiscard]] const RigaAutoma& RigaDi(const Colonna& inizio, std::size_t nPrimo);
+
+    [[nodiscard]] std::size_t Scelti() const noexcept { return m_aScelti.size(); }
+    [[nodiscard]] std::size_t Classe() const noexcept { return static_cast<std::size_t>(m_nClasse); }
 
 private:
-    static constexpr std::uint32_t kIgnoto = 0xFFFFFFFFU;
+    static constexpr std::uint32_t kIgnoto = std::numeric_limits<std::uint32_t>::max();
 
     /// A beginning that leads to a state.
     struct Stato {
         Colonna inizio;
-        std::int16_t nDati = 0;
+        std::uint64_t nChiave = 0;
+        std::size_t nPrimo = 0; ///< the first place that may follow any of the beginnings that lead here
     };
-    /// What the last number decides.
-    struct Verdetti {
-        Maschera ok;
-        Maschera rec;
-        Maschera rotti;
+    /// States of the length that is being made, by key.
+    struct Indice {
+        std::vector<std::uint32_t> aPiccole; ///< keys below its size
+        std::unordered_map<std::uint64_t, std::uint32_t> aGrandi;
     };
+    /// What each place adds to the key at the present position; empty when that depends on the beginning.
+    using Aggiunte = std::vector<std::uint64_t>;
 
-    std::uint32_t NuovoPasso(std::uint32_t nStato, std::size_t nPosto);
-    std::uint32_t StatoDi(const Stato& stato);
+    [[nodiscard]] std::size_t Livelli() const noexcept { return m_aLivelli.size(); }
+    [[nodiscard]] std::size_t FinePosti(std::size_t nDati) const noexcept;
+    [[nodiscard]] bool CreaStati(std::size_t nByte, const Continua& continua);
+    [[nodiscard]] bool CreaLivello(std::size_t nDati, std::size_t nByte, const Continua& continua);
+    [[nodiscard]] std::size_t ByteUsati() const noexcept;
+    [[nodiscard]] Aggiunte AggiunteDi(std::size_t nDati) const;
+    [[nodiscard]] std::uint64_t ChiaveDopo(const Stato& stato, const Colonna& dopo, std::size_t nDati,
+                                           std::size_t nPosto, const Aggiunte& aAggiunte) const;
+    [[nodiscard]] static std::uint32_t& Trova(Indice& indice, std::uint64_t nChiave);
+    void CreaPassi(std::uint32_t nStato, std::size_t nDati, const Aggiunte& aAggiunte, Indice& indice);
+    [[nodiscard]] bool CreaVerdetti(const Continua& continua);
+    [[nodiscard]] bool CreaConti(const Continua& continua);
+    void ContaVerdetti(std::uint32_t nStato);
+    void ContaStato(std::uint32_t nStato, std::size_t nDati);
+    void PoniConti(std::uint32_t nStato, std::size_t nPosto, Conti conti) noexcept;
+    void Abbandona();
     const RigaAutoma& NuovaRiga(std::uint32_t nStato);
-    const Verdetti& VerdettiDi(std::uint32_t nStato);
-    [[nodiscard]] Verdetti Giudica(const Stato& stato, std::size_t nDa);
+    [[nodiscard]] Verdetti Giudica(const Colonna& inizio, std::size_t nDa);
     void Unisci(RigaAutoma& riga, std::size_t nPosto, const Verdetti& verdetti) const;
-    [[nodiscard]] std::size_t PrimoPosto(const Stato& stato) const;
 
     std::int16_t m_nClasse;
     eChiave m_Forma;
-    std::size_t m_nByteMassimi;
-    std::size_t m_nByte = 0; ///< of the states and rows, about
     std::vector<std::uint8_t> m_aScelti;
     StatoSviluppo m_Prova; ///< the one condition, for the plain form
     std::vector<Stato> m_aStati;
-    std::vector<std::uint32_t> m_aPassi; ///< [states * picks]
-    std::vector<const RigaAutoma*> m_aRighe;
+    std::vector<std::uint32_t> m_aLivelli; ///< first state of each length
+    std::vector<std::uint32_t> m_aPassi;   ///< [states * picks]
+    std::vector<std::uint64_t> m_aOk;  ///< [states up to length class - 2, * (picks + 1)], from each place on
+    std::vector<std::uint64_t> m_aRec; ///< the same, or empty when there are none
+    std::vector<std::uint8_t> m_aRottiFino;
+    std::vector<Verdetti> m_aVerdetti;       ///< [states of length class - 1]
+    std::vector<const RigaAutoma*> m_aRighe; ///< [states of length class - 2]
     std::deque<RigaAutoma> m_aFatte;
-    std::vector<std::unique_ptr<Verdetti>> m_aVerdetti;            ///< by state behind class - 1 numbers
-    std::unordered_map<std::uint64_t, std::uint32_t> m_aPerChiave; ///< length and key to state
     RigaAutoma m_Volante;
 };
 

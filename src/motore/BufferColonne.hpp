@@ -7,6 +7,7 @@
 #include "core/FileBinario.hpp"
 #include "motore/ModIntegrali.hpp"
 
+#include <span>
 #include <vector>
 
 namespace ordavel {
@@ -54,6 +55,27 @@ public:
             m_nIndice = 0;
         }
         ++m_nIndice;
+    }
+
+    /// Is there a limit to what a column shares with the one before?
+    [[nodiscard]] bool Riduce() const noexcept { return m_nLimite > 0; }
+
+    /// The slots up to the next flush, to be filled from the first on when nothing is thinned out.
+    [[nodiscard]] std::span<Colonna> Liberi() noexcept
+    {
+        return std::span(m_aColonne).subspan(static_cast<std::size_t>(m_nInAttesa));
+    }
+
+    /// Keeps the first nQuante columns of Liberi.
+    /// Fails    57, 61
+    void TieniLiberi(std::size_t nQuante)
+    {
+        m_nInAttesa += static_cast<std::int32_t>(nQuante);
+        if (m_nInAttesa == kColonneBuffer) {
+            Scrivi(kColonneBuffer);
+            m_nInAttesa = 0;
+        }
+        m_nIndice = m_nInAttesa + 1;
     }
 
     /// Writes what is left.

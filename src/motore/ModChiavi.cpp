@@ -5,6 +5,7 @@
 #include "core/ModTabelle.hpp"
 #include "motore/ModMetriche.hpp"
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 
@@ -36,8 +37,8 @@ constexpr auto kVoci = std::to_array<VoceChiave>({
     {consecutivi, eChiave::ultimo},
     {interruzioniPD, eChiave::parita},
     {baricentro, eChiave::somma},
-    {distanzaMinima, eChiave::ultimo},
-    {distanzaMassima, eChiave::ultimo},
+    {distanzaMinima, eChiave::soglie},
+    {distanzaMassima, eChiave::soglie},
     {posizioni, eChiave::posizione},
     {ponte, eChiave::ultimo},
     {sequenze, eChiave::parita},
@@ -101,6 +102,17 @@ std::uint64_t Parziale(const RecordCondizione& record, std::int16_t nDati, const
     return static_cast<std::uint32_t>(MetricaDiTipo(record.Tipo)(inProva, record).nValore);
 }
 
+/// A smallest or largest gap only ever passes the bounds of the record one way, so that nothing but their order with it
+/// matters to the numbers to come.
+std::uint64_t Soglie(const RecordCondizione& record, std::uint64_t nParziale)
+{
+    const std::array<std::int64_t, 4> aSoglie{record.OkMin, std::int64_t{record.OkMax} + 1, record.RecMin,
+                                              std::int64_t{record.RecMax} + 1};
+    const auto nValore = static_cast<std::int64_t>(nParziale);
+    return static_cast<std::uint64_t>(
+        std::ranges::count_if(aSoglie, [nValore](std::int64_t nSoglia) { return nSoglia <= nValore; }));
+}
+
 const TabellaNumeri& ClassiCifre(TipoCondizione tipo)
 {
     switch (tipo) {
@@ -150,6 +162,9 @@ std::uint64_t ChiaveDi(const RecordCondizione& record, std::int16_t nDati, const
         return nDati > 0 ? colonna[1] : 0U;
     case eChiave::ultimo:
         return Parziale(record, nDati, colonna) << kBitNumero | (nDati > 0 ? colonna[nDati] : 0U);
+    case eChiave::soglie:
+        return Soglie(record, Parziale(record, nDati, colonna)) << kBitNumero |
+               (nDati > 0 ? colonna[nDati] : 0U);
     case eChiave::vicini:
         return Vicini(nDati, colonna);
     case eChiave::posizione:

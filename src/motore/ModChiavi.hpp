@@ -19,11 +19,12 @@ namespace ordavel {
 enum class eChiave : std::uint8_t {
     nessuna,   ///< no key
     parita,    ///< the parities, one bit a number
-    parziale,  ///< what the metric gives for the beginning alone; the order of the numbers plays no part
+    parziale,  ///< what the metric gives for the beginning alone, a sum over its numbers
     resto,     ///< the sum, modulo the parameter
     somma,     ///< the sum
     primo,     ///< the first number
     ultimo,    ///< what the metric gives for the beginning alone, and its last number
+    soglie,    ///< between which bounds of the record that lies, and the last number
     vicini,    ///< which numbers follow the one before, one bit each, and the last number
     posizione, ///< the number at the position that counts, once it is there
     cifre,     ///< how many numbers fall into each digit class
@@ -36,7 +37,13 @@ enum class eChiave : std::uint8_t {
 /// Does the key hold the last number? Only numbers above it can then follow.
 [[nodiscard]] constexpr bool ConUltimo(eChiave forma) noexcept
 {
-    return forma == eChiave::ultimo || forma == eChiave::vicini;
+    return forma == eChiave::ultimo || forma == eChiave::soglie || forma == eChiave::vicini;
+}
+
+/// Does a number at a position add the same to the key, whatever stands in front of it?
+[[nodiscard]] constexpr bool SiSomma(eChiave forma) noexcept
+{
+    return forma == eChiave::parziale || forma == eChiave::somma || forma == eChiave::cifre;
 }
 
 /// The key of a beginning.

@@ -47,4 +47,15 @@ std::int16_t ContaNumeri(const NumeriScelti& aNumeri) noexcept
                                                    [](std::int16_t n) { return n > 0; }));
 }
 
+std::vector<std::uint8_t> Scelti(const NumeriScelti& aNumeri)
+{
+    const std::int16_t nScelti = ContaNumeri(aNumeri);
+    std::vector<std::uint8_t> aScelti;
+    aScelti.reserve(static_cast<std::size_t>(nScelti));
+    for (std::int16_t k = 1; k <= nScelti; ++k) {
+        aScelti.push_back(static_cast<std::uint8_t>(aNumeri[k]));
+    }
+    return aScelti;
+}
+
 } // namespace ordavel

@@ -4,6 +4,9 @@
 
 #include "ordavel/records.hpp"
 
+#include <cstdint>
+#include <vector>
+
 namespace ordavel {
 
 /// Columns of class nClasse over nNumeri numbers.
@@ -23,5 +26,8 @@ namespace ordavel {
 
 /// How many picks a compact list holds: its entries above 0.
 [[nodiscard]] std::int16_t ContaNumeri(const NumeriScelti& aNumeri) noexcept;
+
+/// The picks of a compact list, one byte each.
+[[nodiscard]] std::vector<std::uint8_t> Scelti(const NumeriScelti& aNumeri);
 
 } // namespace ordavel

@@ -17,12 +17,8 @@ Enumeratore::Enumeratore(const NumeriScelti& aNumeri, std::int16_t nClasse)
         Solleva(eErrore::indice);
     }
     m_aPosizioni.assign(static_cast<std::size_t>(nClasse), 0);
-    const std::int16_t nScelti = ContaNumeri(aNumeri);
-    m_nRighe = static_cast<std::size_t>(std::max(0, nScelti - nClasse + 1));
-    m_aScelti.reserve(static_cast<std::size_t>(nScelti));
-    for (std::int16_t k = 1; k <= nScelti; ++k) {
-        m_aScelti.push_back(static_cast<std::uint8_t>(aNumeri[k]));
-    }
+    m_aScelti = Scelti(aNumeri);
+    m_nRighe = static_cast<std::size_t>(std::max(0, ContaNumeri(aNumeri) - nClasse + 1));
 }
 
 bool Enumeratore::Riporta() noexcept
@@ -56,17 +52,6 @@ bool Aggiorna(double nTotale, StatoSviluppo& stato, Avanzamento& avanzamento)
 
 namespace {
 
-std::vector<std::uint8_t> Scelti(const NumeriScelti& aNumeri)
-{
-    const std::int16_t nScelti = ContaNumeri(aNumeri);
-    std::vector<std::uint8_t> aScelti;
-    aScelti.reserve(static_cast<std::size_t>(nScelti));
-    for (std::int16_t k = 1; k <= nScelti; ++k) {
-        aScelti.push_back(static_cast<std::uint8_t>(aNumeri[k]));
-    }
-    return aScelti;
-}
-
 /// Column by column: the definition.
 void SviluppaPiano(const NumeriScelti& aNumeri, std::int16_t nClasse, BufferColonne& buffer, double nTotale,
                    StatoSviluppo& stato, Avanzamento& avanzamento)
@@ -84,6 +69,22 @@ void SviluppaPiano(const NumeriScelti& aNumeri, std::int16_t nClasse, BufferColo
     }
 }
 
+/// Whole blocks of columns at once.
+/// Gives    false when it must not be: nothing was done
+bool SviluppaBlocchi(const CorsaBlocchi& corsa, BufferColonne& buffer, StatoSviluppo& stato,
+                     Avanzamento& avanzamento)
+{
+    if (!BlocchiPossibili(corsa.aScelti.size(), corsa.nClasse, stato)) {
+        return false;
+    }
+    SviluppoBlocchi sviluppo(corsa, buffer, stato, avanzamento);
+    if (sviluppo.Fallisce()) {
+        return false;
+    }
+    sviluppo.Esegui();
+    return true;
+}
+
 } // namespace
 
 void SviluppaColonne(const NumeriScelti& aNumeri, std::int16_t nClasse, std::int16_t nLimite,
@@ -99,11 +100,9 @@ void SviluppaColonne(const NumeriScelti& aNumeri, std::int16_t nClasse, std::int
     stato.nSviluppate = 0;
     stato.nCondizionate = 0;
     const std::vector<std::uint8_t> aScelti = Scelti(aNumeri);
-    if (nucleo && SviluppoBlocchi::Possibile(aScelti.size(), nClasse, stato)) {
-        const CorsaBlocchi corsa{
-            .aScelti = aScelti, .nClasse = nClasse, .nTotale = nTotale, .nucleo = *nucleo};
-        SviluppoBlocchi(corsa, buffer, stato, avanzamento).Esegui();
-    } else {
+    if (!nucleo ||
+        !SviluppaBlocchi({.aScelti = aScelti, .nClasse = nClasse, .nTotale = nTotale, .nucleo = *nucleo},
+                         buffer, stato, avanzamento)) {
         SviluppaPiano(aNumeri, nClasse, buffer, nTotale, stato, avanzamento);
     }
     buffer.ScriviResto();

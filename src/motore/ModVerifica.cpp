@@ -89,8 +89,7 @@ std::string NomeCondizione(const StatoSviluppo& stato, const RecordCondizione& r
 
 void Valuta(ColonnaInProva& colonna, StatoSviluppo& stato, RecordCondizione& record)
 {
-    const VoceCatalogo* voce = TrovaTipo(record.Tipo);
-    switch (voce == nullptr ? eForma::nessuna : voce->forma) {
+    switch (FormaDiTipo(record.Tipo)) {
     case eForma::nessuna:
         record.Esito = kVero;
         return;

@@ -1,135 +1,120 @@
-// NucleiBlocchi.cpp - conditions over the masks of eight next-to-last numbers at once.
+// NucleiBlocchi.cpp - conditions over the masks of several next-to-last numbers at once.
 
 #include "motore/NucleiBlocchi.hpp"
 
-#include <algorithm>
-#include <cstring>
+#include "motore/NucleoVerdetto.hpp"
 
 namespace ordavel {
 
 namespace {
 
-using Gruppo [[gnu::vector_size(kAffiancate * sizeof(std::uint64_t))]] = std::uint64_t;
-
-[[gnu::always_inline]] inline void Prendi(Gruppo& gruppo, const std::uint64_t* aParole)
+/// Low words of a row, or high ones.
+[[gnu::always_inline]] inline const std::uint64_t* Parole(const MaschereRiga& riga, bool bAlte)
 {
-    std::memcpy(&gruppo, aParole, sizeof gruppo);
+    return bAlte ? riga.aAlte.data() : riga.aBasse.data();
 }
 
-[[gnu::always_inline]] inline void Posa(const Gruppo& gruppo, std::uint64_t* aParole)
+[[gnu::always_inline]] inline std::uint64_t* Parole(MaschereRiga& riga, bool bAlte)
 {
-    std::memcpy(aParole, &gruppo, sizeof gruppo);
+    return bAlte ? riga.aAlte.data() : riga.aBasse.data();
 }
 
-[[gnu::always_inline]] inline void ContaBit(const Gruppo& gruppo, Gruppo& conto)
+template <std::size_t N>
+[[gnu::always_inline]] inline void Comuni(Righe aRighe, bool bAlte, std::size_t nPosto, Vettore<N>& comuni)
 {
-    for (std::size_t i = 0; i < kAffiancate; ++i) {
-        conto[i] += static_cast<std::uint64_t>(__builtin_popcountll(gruppo[i]));
+    Prendi(comuni, Parole(*aRighe[0], bAlte) + nPosto);
+    for (std::size_t c = 1; c < aRighe.size(); ++c) {
+        Vettore<N> riga;
+        Prendi(riga, Parole(*aRighe[c], bAlte) + nPosto);
+        comuni &= riga;
     }
 }
 
-/// The words of a block from its first place on, so many groups of them.
-struct Tratto {
-    std::size_t nPrimo;
-    std::size_t nGruppi;
-};
-
-[[gnu::always_inline]] inline void Copia(const std::uint64_t* aDa, std::uint64_t* aVerso, Tratto tratto)
+template <std::size_t N>
+[[gnu::always_inline]] inline bool Incrocia(const TrattiBlocco& tratti, Righe aRighe, MaschereRiga& tenute)
 {
-    for (std::size_t g = 0; g < tratto.nGruppi; ++g) {
-        Gruppo gruppo;
-        Prendi(gruppo, aDa + tratto.nPrimo + g * kAffiancate);
-        Posa(gruppo, aVerso + tratto.nPrimo + g * kAffiancate);
-    }
-}
-
-/// Adds to a count the columns of a row that take part, and takes the others from `tenute` when it is given.
-template <bool Intero, bool Taglia>
-[[gnu::always_inline]] inline void Conta(const std::uint64_t* aRiga, const std::uint64_t* aAttive,
-                                         std::uint64_t* aTenute, Tratto tratto, Gruppo& conto)
-{
-    for (std::size_t g = 0; g < tratto.nGruppi; ++g) {
-        const std::size_t nPosto = tratto.nPrimo + g * kAffiancate;
-        Gruppo riga;
-        Prendi(riga, aRiga + nPosto);
-        if constexpr (!Intero) {
-            Gruppo attive;
-            Prendi(attive, aAttive + nPosto);
-            riga &= attive;
+    Vettore<N> unione{};
+    const auto incrocia = [&](const Tratto& tratto, bool bAlte) {
+        for (std::size_t n = tratto.nPrimo; n < tratto.nPrimo + tratto.nParole; n += N) {
+            Vettore<N> comuni;
+            Comuni<N>(aRighe, bAlte, n, comuni);
+            unione |= comuni;
+            Posa(comuni, Parole(tenute, bAlte) + n);
         }
-        ContaBit(riga, conto);
-        if constexpr (Taglia) {
-            Gruppo tenute;
-            Prendi(tenute, aTenute + nPosto);
-            Posa(tenute & riga, aTenute + nPosto);
-        }
-    }
-}
-
-template <bool Intero, bool Taglia>
-[[gnu::always_inline]] inline void ContaRiga(const MaschereRiga& riga, Blocco& blocco, Tratto basse,
-                                             Tratto alte, Corsie& aConti)
-{
-    Gruppo conto;
-    Prendi(conto, aConti.data());
-    Conta<Intero, Taglia>(riga.aBasse.data(), blocco.attive->aBasse.data(), blocco.tenute.aBasse.data(),
-                          basse, conto);
-    Conta<Intero, Taglia>(riga.aAlte.data(), blocco.attive->aAlte.data(), blocco.tenute.aAlte.data(), alte,
-                          conto);
-    Posa(conto, aConti.data());
-}
-
-template <bool Intero>
-[[gnu::always_inline]] inline void GiudicaTratti(std::span<VoceBlocco> aVoci, Blocco& blocco, Tratto basse,
-                                                 Tratto alte)
-{
-    for (VoceBlocco& voce : aVoci) {
-        ContaRiga<Intero, true>(voce.riga->ok, blocco, basse, alte, voce.aOk);
-        if (voce.riga->bRecuperi) {
-            ContaRiga<Intero, false>(voce.riga->rec, blocco, basse, alte, voce.aRec);
-        }
-    }
-}
-
-[[gnu::always_inline]] inline void Giudica(std::span<VoceBlocco> aVoci, Blocco& blocco)
-{
-    const auto gruppi = [&blocco](std::size_t nPosti) {
-        return nPosti > blocco.nPrimo ? (nPosti - blocco.nPrimo + kAffiancate - 1) / kAffiancate : 0;
     };
-    // The high word holds something as long as more than 64 places stand above.
-    const std::size_t nAlti = blocco.nScelti > 65 ? blocco.nScelti - 65 : 0;
-    const Tratto basse{blocco.nPrimo, gruppi(blocco.nScelti - 1)};
-    const Tratto alte{blocco.nPrimo, gruppi(nAlti)};
-    Copia(blocco.attive->aBasse.data(), blocco.tenute.aBasse.data(), basse);
-    Copia(blocco.attive->aAlte.data(), blocco.tenute.aAlte.data(), alte);
-    if (blocco.bIntero) {
-        GiudicaTratti<true>(aVoci, blocco, basse, alte);
-    } else {
-        GiudicaTratti<false>(aVoci, blocco, basse, alte);
+    incrocia(tratti.basse, false);
+    incrocia(tratti.alte, true);
+    return Qualcuno(unione);
+}
+
+template <std::size_t N>
+[[gnu::always_inline]] inline std::uint64_t Conta(const TrattiBlocco& tratti, Righe aRighe)
+{
+    ContaBit<N> conto;
+    const auto conta = [&](const Tratto& tratto, bool bAlte) {
+        for (std::size_t n = tratto.nPrimo; n < tratto.nPrimo + tratto.nParole; n += N) {
+            Vettore<N> comuni;
+            Comuni<N>(aRighe, bAlte, n, comuni);
+            conto.Aggiungi(comuni);
+        }
+    };
+    conta(tratti.basse, false);
+    conta(tratti.alte, true);
+    return conto.Somma();
+}
+
+template <std::size_t N>
+[[gnu::always_inline]] inline void Componi(const TrattiBlocco& tratti, const PianoVerdetto& piano,
+                                           const RigheVerdetto& righe, LavoroVerdetto& lavoro,
+                                           MaschereRiga& tenute)
+{
+    const auto componi = [&](const Tratto& tratto, bool bAlte) {
+        for (std::size_t n = tratto.nPrimo; n < tratto.nPrimo + tratto.nParole; n += N) {
+            for (const std::size_t i : piano.aUsati) {
+                std::memcpy(lavoro.aPosti[i].data(), Parole(*righe.aOk[i], bAlte) + n, sizeof(Vettore<N>));
+                std::memcpy(lavoro.aRec[i].data(), Parole(*righe.aRec[i], bAlte) + n, sizeof(Vettore<N>));
+            }
+            Vettore<N> tieni;
+            Prendi(tieni, Parole(tenute, bAlte) + n);
+            Giudica(piano, lavoro, tieni);
+            Posa(tieni, Parole(tenute, bAlte) + n);
+        }
+    };
+    componi(tratti.basse, false);
+    componi(tratti.alte, true);
+}
+
+// One set of functions a processor: the bodies above, compiled for it. An attribute stands in no parentheses.
+// NOLINTBEGIN(bugprone-macro-parentheses)
+#define ORDAVEL_NUCLEI_BLOCCHI(PROCESSORE, NOME, N)                                                          \
+    PROCESSORE bool Incrocia##NOME(const TrattiBlocco& tratti, Righe aRighe, MaschereRiga& tenute)           \
+    {                                                                                                        \
+        return Incrocia<N>(tratti, aRighe, tenute);                                                          \
+    }                                                                                                        \
+    PROCESSORE std::uint64_t Conta##NOME(const TrattiBlocco& tratti, Righe aRighe)                           \
+    {                                                                                                        \
+        return Conta<N>(tratti, aRighe);                                                                     \
+    }                                                                                                        \
+    PROCESSORE void Componi##NOME(const TrattiBlocco& tratti, const PianoVerdetto& piano,                    \
+                                  const RigheVerdetto& righe, LavoroVerdetto& lavoro, MaschereRiga& tenute)  \
+    {                                                                                                        \
+        Componi<N>(tratti, piano, righe, lavoro, tenute);                                                    \
     }
-}
 
-void GiudicaComune(std::span<VoceBlocco> aVoci, Blocco& blocco)
-{
-    Giudica(aVoci, blocco);
-}
-
-ORDAVEL_AVX2 void GiudicaAvx2(std::span<VoceBlocco> aVoci, Blocco& blocco)
-{
-    Giudica(aVoci, blocco);
-}
-
-ORDAVEL_AVX512 void GiudicaAvx512(std::span<VoceBlocco> aVoci, Blocco& blocco)
-{
-    Giudica(aVoci, blocco);
-}
+ORDAVEL_NUCLEI_BLOCCHI(, Comune, 2)
+ORDAVEL_NUCLEI_BLOCCHI(ORDAVEL_AVX2, Avx2, 4)
+ORDAVEL_NUCLEI_BLOCCHI(ORDAVEL_AVX512, Avx512, 8)
+#undef ORDAVEL_NUCLEI_BLOCCHI
+// NOLINTEND(bugprone-macro-parentheses)
 
 /// By eNucleo.
-constexpr std::array<NucleoBlocchi, 3> kNuclei{GiudicaComune, GiudicaAvx2, GiudicaAvx512};
+constexpr std::array<NucleoBlocchi, 3> kNuclei{{{IncrociaComune, ContaComune, ComponiComune},
+                                                {IncrociaAvx2, ContaAvx2, ComponiAvx2},
+                                                {IncrociaAvx512, ContaAvx512, ComponiAvx512}}};
 
 } // namespace
 
-NucleoBlocchi ScegliNucleoBlocchi(eNucleo nucleo) noexcept
+const NucleoBlocchi& ScegliNucleoBlocchi(eNucleo nucleo) noexcept
 {
     return kNuclei[static_cast<std::size_t>(nucleo)];
 }

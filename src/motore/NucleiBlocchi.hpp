@@ -1,35 +1,40 @@
-// NucleiBlocchi.hpp - the inner loop of the block form, one for each instruction set.
+// NucleiBlocchi.hpp - the inner loops of the block form, one set of them for each instruction set.
+//
+// A block is all columns that follow a beginning of class - 2 numbers. Every operation goes over the words of its rows
+// from the first place of the next-to-last number on; words in front of it are neither read nor written.
 
 #pragma once
 
 #include "core/ModProcessore.hpp"
-#include "motore/Automa.hpp"
+#include "motore/GruppoParole.hpp"
+#include "motore/VerdettoBlocchi.hpp"
+
+#include <span>
 
 namespace ordavel {
 
-/// One number a lane, for eight next-to-last numbers side by side.
-using Corsie = std::array<std::uint64_t, kAffiancate>;
+/// Masks of a block, one row or more, by condition.
+using Righe = std::span<const MaschereRiga* const>;
 
-/// A condition in a block.
-struct VoceBlocco {
-    const RigaAutoma* riga = nullptr;
-    Corsie aOk{};  ///< columns that passed, to be added up over the lanes
-    Corsie aRec{}; ///< columns inside the recovery zone
+/// What recovery and links read, by record.
+struct RigheVerdetto {
+    Righe aOk;  ///< columns that satisfy it
+    Righe aRec; ///< columns inside its recovery zone
 };
 
-/// A block: all columns that follow a beginning of class - 2 numbers, or a run of them.
-struct Blocco {
-    std::size_t nPrimo = 0;               ///< first place of the next-to-last number
-    std::size_t nScelti = 0;              ///< picks
-    bool bIntero = true;                  ///< all columns of the beginning take part
-    const MaschereRiga* attive = nullptr; ///< columns that take part
-    MaschereRiga tenute; ///< those of them that satisfy every condition; valid from the first place on
+struct NucleoBlocchi {
+    /// The columns of all rows; at least one row.
+    /// Changes  tenute
+    /// Gives    false when there are none
+    bool (*incrocia)(const TrattiBlocco& tratti, Righe aRighe, MaschereRiga& tenute);
+    /// How many columns all rows have in common; at least one row.
+    std::uint64_t (*conta)(const TrattiBlocco& tratti, Righe aRighe);
+    /// Takes from `tenute` what recovery and links do not let through.
+    void (*componi)(const TrattiBlocco& tratti, const PianoVerdetto& piano, const RigheVerdetto& righe,
+                    LavoroVerdetto& lavoro, MaschereRiga& tenute);
 };
 
-/// Counts what each condition passes and recovers, and leaves in `tenute` what all of them pass.
-using NucleoBlocchi = void (*)(std::span<VoceBlocco> aVoci, Blocco& blocco);
-
-/// The loop for an instruction set.
-[[nodiscard]] NucleoBlocchi ScegliNucleoBlocchi(eNucleo nucleo) noexcept;
+/// The loops for an instruction set.
+[[nodiscard]] const NucleoBlocchi& ScegliNucleoBlocchi(eNucleo nucleo) noexcept;
 
 } // namespace ordavel

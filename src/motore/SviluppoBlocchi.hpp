@@ -1,9 +1,10 @@
 // SviluppoBlocchi.hpp - the enumeration by whole blocks of columns.
 //
 // All columns that begin with the same class - 2 numbers are judged together. For each condition the row of its
-// automaton holds a mask for each next-to-last number; counters move by population counts, and what all conditions pass
-// is written in order. Everything that a run shows is what the plain form would show: counters, last values, refreshes
-// after every 10000 columns, the place of a stop, the order of the columns, failures.
+// automaton holds a mask for each next-to-last number; what all conditions pass is written in order. Beginnings behind
+// which nothing passes are not looked into: the counters follow from the automata. Everything that a run shows is what
+// the plain form would show: counters, last values, refreshes after every 10000 columns, the place of a stop, the order
+// of the columns, failures.
 //
 // A block that cannot be judged this way, because a condition fails somewhere in it, goes through the plain form column
 // by column, and fails there where it fails.
@@ -11,9 +12,11 @@
 #pragma once
 
 #include "motore/BufferColonne.hpp"
+#include "motore/CondizioniBlocchi.hpp"
+#include "motore/DoppioControllo.hpp"
 #include "motore/ModSviluppo.hpp"
-#include "motore/NucleiBlocchi.hpp"
-#include "motore/VerdettoBlocchi.hpp"
+
+#include <memory>
 
 namespace ordavel {
 
@@ -22,79 +25,74 @@ struct CorsaBlocchi {
     std::span<const std::uint8_t> aScelti; ///< the picks, ascending, at most 90
     std::int16_t nClasse = 0;              ///< 2..10
     double nTotale = 0;                    ///< columns of the whole system, for the percentage
-    eNucleo nucleo = eNucleo::comune;      ///< the inner loop
+    eNucleo nucleo = eNucleo::comune;      ///< the inner loops
     /// What the automata of all conditions may take together.
     std::size_t nByteAutomi = std::size_t{512} << 20;
 };
 
+/// May such a system be walked through by blocks? One that may fail in recovery or links may not, nor one of very many
+/// conditions.
+[[nodiscard]] bool BlocchiPossibili(std::size_t nScelti, std::int16_t nClasse, const StatoSviluppo& stato);
+
 class SviluppoBlocchi {
 public:
-    /// Takes    buffer   where kept columns go
+    /// Takes    corsa    of which BlocchiPossibili is true
+    ///          buffer   where kept columns go
     /// Fails    7
     SviluppoBlocchi(const CorsaBlocchi& corsa, BufferColonne& buffer, StatoSviluppo& stato,
                     Avanzamento& avanzamento);
 
-    /// May this system be walked through by blocks?
-    [[nodiscard]] static bool Possibile(std::size_t nScelti, std::int16_t nClasse,
-                                        const StatoSviluppo& stato);
+    /// Is it known that some column of the run fails? Then the plain form is to be taken.
+    [[nodiscard]] bool Fallisce() const noexcept { return m_Condizioni.Falliscono(); }
 
     /// Walks through all columns, or up to a stop.
     void Esegui();
 
 private:
-    struct Condizione {
-        Condizione(Automa automaNuovo, std::size_t nRecordNuovo, const RecordCondizione& record);
+    using Seguito = CondizioniBlocchi::Seguito;
 
-        Automa automa;
-        std::size_t nRecord;               ///< its record
-        bool bCoppia;                      ///< its recovery verdict may be that of the column before
-        std::vector<std::uint32_t> aStati; ///< state behind each number of the beginning
-        std::uint64_t nOk = 0;             ///< of a pair: columns that passed so far
-        bool bRiporto = false;             ///< of a pair: recovery verdict of the last column
-    };
-
-    void CreaCondizioni(std::size_t nByte);
-    /// Gives    false when the run was stopped
-    [[nodiscard]] bool Scendi(std::int16_t nDati, std::size_t nDa);
-    [[nodiscard]] bool EseguiInizio(std::size_t nPrimo);
-    [[nodiscard]] bool EseguiBlocco(std::size_t nPrimo, std::int64_t nColonne);
+    /// Gives    false when the run was stopped; so do all below
+    [[nodiscard]] bool Scendi(std::size_t nDati, std::size_t nDa, Seguito seguito);
+    [[nodiscard]] bool Salta(std::size_t nDati, std::size_t nDa, Seguito seguito);
+    [[nodiscard]] bool EseguiInizio(std::size_t nPrimo, Seguito seguito);
     [[nodiscard]] bool EseguiPiano(std::size_t nPrimo, std::int64_t nDa);
     [[nodiscard]] bool EseguiColonna(std::size_t nPosto, std::size_t nUltimo);
-    [[nodiscard]] bool Trabocca(std::int64_t nColonne) const noexcept;
-    [[nodiscard]] bool PrendiRighe(std::size_t nPrimo);
-    void EseguiTratto(std::size_t nPrimo, std::int64_t nDa, std::int64_t nA, bool bIntero);
-    void PreparaAttive(std::size_t nPrimo, std::int64_t nDa, std::int64_t nA);
-    void ContaCoppia(Condizione& condizione, const RigaAutoma& riga);
-    void Componi(std::size_t nPrimo);
-    [[nodiscard]] std::uint64_t ComponiParola(std::size_t nPosto, bool bAlta);
-    void Tieni(std::size_t nPrimo);
-    void SegnaUltima();
-    void TieniParola(Colonna& colonna, std::uint64_t nParola, std::size_t nBitSotto);
-    void VersaConti();
-    void PoniUltimiValori();
     [[nodiscard]] bool Aggiornata();
+    [[nodiscard]] std::int64_t FinoAdAggiornamento() const noexcept;
+    [[nodiscard]] bool Trabocca(std::int64_t nColonne) const noexcept;
+    void Passa(std::size_t nPrimo, std::int64_t nDa, std::int64_t nA, bool bTenute);
+    void PassaIntero(std::size_t nPrimo, std::int64_t nColonne, bool bTenute);
+    void PreparaAttive(std::size_t nPrimo, std::int64_t nDa, std::int64_t nA);
+    void Tieni(std::size_t nPrimo, const MaschereRiga& tenute);
+    void TieniParola(Colonna& colonna, std::uint64_t nParola, const std::uint8_t* aNumeri);
+    void TieniUna(const Colonna& colonna);
+    void SegnaEsaminate(std::int64_t nColonne) noexcept;
+    [[nodiscard]] PostiColonna UltimiPosti() const;
+    void PoniConti();
+    void PoniUltimiValori();
+    void ConfrontaFine(bool bFinita);
+    void SegnaPassata(const Colonna& colonna)
+    {
+        if constexpr (kDoppioControllo) {
+            m_Doppio->Passa(colonna);
+        }
+    }
 
     std::vector<std::uint8_t> m_aScelti;
-    std::int16_t m_nClasse;
+    std::size_t m_nClasse;
     BufferColonne& m_Buffer;
     double m_nTotale;
     StatoSviluppo& m_Stato;
     Avanzamento& m_Avanzamento;
-    NucleoBlocchi m_Nucleo;
-    VerdettoBlocchi m_Verdetto;
-    std::vector<Condizione> m_aCondizioni;
-    std::vector<VoceBlocco> m_aVoci; ///< one for each of m_aCondizioni
-    Blocco m_Blocco;
-    MaschereRiga m_Tutte;             ///< all columns of a beginning, by next-to-last place
-    MaschereRiga m_Alcune;            ///< some of them
-    std::vector<std::uint64_t> m_aOk; ///< a word for each record
-    std::vector<std::uint64_t> m_aRec;
-    std::vector<std::uint8_t>
-        m_aRiporti;   ///< by condition: of pairs, the recovery verdict of the column before
-    Colonna m_Inizio; ///< the numbers of the present beginning
-    Colonna m_Ultima; ///< last column examined, when there was one
-    bool m_bEsaminata = false;
-    std::int64_t m_nEsaminate = 0; ///< by blocks, not yet in the counters of the records
+    CondizioniBlocchi m_Condizioni;
+    std::array<std::uint8_t, 128> m_aPerBit{}; ///< number of each bit of a mask
+    MaschereRiga m_Tutte;                      ///< all columns of a beginning, by next-to-last place
+    MaschereRiga m_Alcune;                     ///< some of them
+    MaschereRiga m_Tenute;
+    Colonna m_Inizio;                          ///< the numbers of the present beginning
+    std::int64_t m_nEsaminate = 0;             ///< columns, from the first on
+    bool m_bPosti = false;                     ///< the plain form has left the records as they must be
+    std::unique_ptr<DoppioControllo> m_Doppio; ///< where kDoppioControllo
 };
 
 } // namespace ordavel

@@ -1,45 +1,63 @@
-// VerdettoBlocchi.cpp - bits counted as binary digits.
+// VerdettoBlocchi.cpp - the plan of recovery and links.
 
 #include "motore/VerdettoBlocchi.hpp"
+
+#include "condizioni/ModCatalogo.hpp"
 
 #include <algorithm>
 #include <bit>
 
 namespace ordavel {
 
-VerdettoBlocchi::VerdettoBlocchi(const StatoSviluppo& stato)
+namespace {
+
+using GruppoRecupero = PianoVerdetto::GruppoRecupero;
+using BloccoLink = PianoVerdetto::BloccoLink;
+
+bool HaGruppo(const RecordCondizione& record)
 {
-    PreparaGruppi(stato);
-    PreparaLink(stato);
-    m_bSemplice = m_aGruppi.empty() && m_aLink.empty();
+    return QuadroRecuperi::Contiene(record.IdRecupero);
 }
 
-void VerdettoBlocchi::PreparaGruppi(const StatoSviluppo& stato)
+GruppoRecupero GruppoDi(const StatoSviluppo& stato, std::int16_t nGruppo)
 {
-    for (const RecordCondizione& record : stato.aCondizioni) {
-        m_bPossibile = m_bPossibile && QuadroRecuperi::Contiene(record.IdRecupero);
-    }
-    for (std::int16_t g = 1; g <= kGruppiRecupero && m_bPossibile; ++g) {
-        const VoceRecupero& voce = stato.aQuadroRec[g];
-        GruppoRecupero gruppo{{}, voce.MinPunti, voce.MaxPunti};
-        for (std::size_t i = 0; i < stato.aCondizioni.size(); ++i) {
-            if (stato.aCondizioni[i].IdRecupero == g) {
-                gruppo.aMembri.push_back(i);
-            }
-        }
-        if (voce.Attiva != 0 && !gruppo.aMembri.empty()) {
-            m_aGruppi.push_back(std::move(gruppo));
+    const VoceRecupero& voce = stato.aQuadroRec[nGruppo];
+    GruppoRecupero gruppo{{}, voce.MinPunti, voce.MaxPunti};
+    for (std::size_t i = 0; i < stato.aCondizioni.size(); ++i) {
+        if (stato.aCondizioni[i].IdRecupero == nGruppo) {
+            gruppo.aMembri.push_back(i);
         }
     }
+    return gruppo;
 }
+
+std::vector<GruppoRecupero> GruppiAttivi(const StatoSviluppo& stato)
+{
+    std::vector<GruppoRecupero> aGruppi;
+    for (std::int16_t g = 1; g <= kGruppiRecupero; ++g) {
+        if (stato.aQuadroRec[g].Attiva != 0) {
+            aGruppi.push_back(GruppoDi(stato, g));
+        }
+    }
+    std::erase_if(aGruppi, [](const GruppoRecupero& gruppo) { return gruppo.aMembri.empty(); });
+    return aGruppi;
+}
+
+/// Links, and what is left to hold when all have collapsed.
+struct Collasso {
+    std::vector<std::vector<std::size_t>> aBlocchi; ///< slots that each link counts
+    std::vector<std::size_t> aListe;                ///< record whose list each link is judged by
+    std::vector<std::size_t> aFinali;
+};
 
 /// Follows the collapse of the links; the place of a "LinkClose" in the working copy is where its list is read.
-void VerdettoBlocchi::PreparaLink(const StatoSviluppo& stato)
+Collasso Segui(const StatoSviluppo& stato)
 {
     struct Voce {
         std::size_t nPosto;
         bool bApre;
     };
+    Collasso collasso;
     std::vector<Voce> aVoci;
     const std::size_t nRecord = stato.aCondizioni.size();
     for (std::size_t i = 0; i < nRecord; ++i) {
@@ -53,87 +71,95 @@ void VerdettoBlocchi::PreparaLink(const StatoSviluppo& stato)
         while (nAperto > 0 && !aVoci[nAperto].bApre) {
             --nAperto;
         }
-        BloccoLink blocco;
+        std::vector<std::size_t>& aPosti = collasso.aBlocchi.emplace_back();
         for (std::size_t n = nAperto; n <= nChiuso; ++n) {
-            blocco.aPosti.push_back(aVoci[n].nPosto);
+            aPosti.push_back(aVoci[n].nPosto);
         }
-        blocco.aLista = &stato.aCondizioni[nChiuso].Numeri;
-        m_bPossibile = m_bPossibile && FlagNumeri::Contiene(static_cast<std::int64_t>(blocco.aPosti.size()));
-        m_aLink.push_back(std::move(blocco));
-        aVoci.resize(nAperto);
-        aVoci.push_back({nRecord + m_aLink.size() - 1, false});
+        collasso.aListe.push_back(nChiuso);
+        aVoci.resize(nAperto, {});
+        aVoci.push_back({nRecord + collasso.aBlocchi.size() - 1, false});
     }
     for (const Voce& voce : aVoci) {
         if (!voce.bApre) {
-            m_aFinali.push_back(voce.nPosto);
+            collasso.aFinali.push_back(voce.nPosto);
         }
     }
-    m_aPosti.resize(nRecord + m_aLink.size());
-    m_aCifre.resize(std::bit_width(nRecord + 1));
+    return collasso;
 }
 
-void VerdettoBlocchi::ContaBit(std::span<const std::size_t> aPosti, std::span<const std::uint64_t> aParole)
+BloccoLink BloccoDi(const std::vector<std::size_t>& aPosti, const FlagNumeri& aLista)
 {
-    std::ranges::fill(m_aCifre, 0);
-    for (const std::size_t nPosto : aPosti) {
-        std::uint64_t nRiporto = aParole[nPosto];
-        for (std::size_t c = 0; nRiporto != 0; ++c) {
-            const std::uint64_t nDopo = m_aCifre[c] & nRiporto;
-            m_aCifre[c] ^= nRiporto;
-            nRiporto = nDopo;
+    BloccoLink blocco{aPosti, {}};
+    for (std::size_t nConto = 0; nConto <= aPosti.size(); ++nConto) {
+        if (aLista[static_cast<std::int64_t>(nConto)] != 0) {
+            blocco.aAccettati.push_back(nConto);
         }
     }
+    return blocco;
 }
 
-/// The bits whose count is nValore or more.
-std::uint64_t VerdettoBlocchi::Almeno(std::int64_t nValore) const
+/// A record that must hold by itself, or with its group.
+void SegnaFinale(const StatoSviluppo& stato, std::size_t nRecord, bool bInGruppo, PianoVerdetto& piano)
 {
-    if (nValore <= 0) {
-        return ~std::uint64_t{0};
+    if (!SiMisura(stato.aCondizioni[nRecord].Tipo)) {
+        return; // it holds always
     }
-    if (nValore >> m_aCifre.size() != 0) {
-        return 0;
+    piano.aRuoli[nRecord] = bInGruppo ? eRuolo::recuperabile : eRuolo::indispensabile;
+    if (bInGruppo) {
+        piano.aFinali.push_back(nRecord);
     }
-    std::uint64_t nAlmeno = ~std::uint64_t{0}; // of the digits so far, from the lowest on
-    for (std::size_t c = 0; c < m_aCifre.size(); ++c) {
-        nAlmeno = ((nValore >> c) & 1) != 0 ? m_aCifre[c] & nAlmeno : m_aCifre[c] | nAlmeno;
-    }
-    return nAlmeno;
 }
 
-std::uint64_t VerdettoBlocchi::Uguale(std::size_t nValore) const
+/// The records that groups and links read.
+std::vector<std::size_t> Usati(const PianoVerdetto& piano)
 {
-    std::uint64_t nUguale = ~std::uint64_t{0};
-    for (std::size_t c = 0; c < m_aCifre.size(); ++c) {
-        nUguale &= ((nValore >> c) & 1U) != 0 ? m_aCifre[c] : ~m_aCifre[c];
-    }
-    return nUguale;
-}
-
-std::uint64_t VerdettoBlocchi::Giudica(std::span<std::uint64_t> aOk, std::span<const std::uint64_t> aRec)
-{
-    for (const GruppoRecupero& gruppo : m_aGruppi) {
-        ContaBit(gruppo.aMembri, aRec);
-        const std::uint64_t nPerdona = Almeno(gruppo.nMinimo) & ~Almeno(std::int64_t{gruppo.nMassimo} + 1);
-        for (const std::size_t i : gruppo.aMembri) {
-            aOk[i] |= aRec[i] & nPerdona;
+    std::vector<std::size_t> aUsati;
+    for (std::size_t i = 0; i < piano.aRuoli.size(); ++i) {
+        const bool bInLink = std::ranges::any_of(piano.aLink, [i](const BloccoLink& blocco) {
+            return std::ranges::find(blocco.aPosti, i) != blocco.aPosti.end();
+        });
+        if (bInLink || piano.InGruppo(i)) {
+            aUsati.push_back(i);
         }
     }
-    std::ranges::copy(aOk, m_aPosti.begin());
-    for (std::size_t n = 0; n < m_aLink.size(); ++n) {
-        const BloccoLink& blocco = m_aLink[n];
-        ContaBit(blocco.aPosti, m_aPosti);
-        std::uint64_t nPassa = 0;
-        for (std::size_t nConto = 0; nConto <= blocco.aPosti.size(); ++nConto) {
-            nPassa |= (*blocco.aLista)[static_cast<std::int64_t>(nConto)] != 0 ? Uguale(nConto) : 0;
-        }
-        m_aPosti[aOk.size() + n] = nPassa;
+    return aUsati;
+}
+
+} // namespace
+
+bool PianoVerdetto::InGruppo(std::size_t nRecord) const
+{
+    return std::ranges::any_of(aGruppi, [nRecord](const GruppoRecupero& gruppo) {
+        return std::ranges::find(gruppo.aMembri, nRecord) != gruppo.aMembri.end();
+    });
+}
+
+bool VerdettoPuoFallire(const StatoSviluppo& stato)
+{
+    const auto troppi = [](const std::vector<std::size_t>& aPosti) {
+        return !FlagNumeri::Contiene(static_cast<std::int64_t>(aPosti.size()));
+    };
+    return !std::ranges::all_of(stato.aCondizioni, HaGruppo) ||
+           std::ranges::any_of(Segui(stato).aBlocchi, troppi);
+}
+
+PianoVerdetto PianificaVerdetto(const StatoSviluppo& stato)
+{
+    const std::size_t nRecord = stato.aCondizioni.size();
+    PianoVerdetto piano;
+    piano.aGruppi = GruppiAttivi(stato);
+    piano.aRuoli.assign(nRecord, eRuolo::libero);
+    const Collasso collasso = Segui(stato);
+    for (std::size_t n = 0; n < collasso.aBlocchi.size(); ++n) {
+        piano.aLink.push_back(BloccoDi(collasso.aBlocchi[n], stato.aCondizioni[collasso.aListe[n]].Numeri));
     }
-    std::uint64_t nPassano = ~std::uint64_t{0};
-    for (const std::size_t nPosto : m_aFinali) {
-        nPassano &= m_aPosti[nPosto];
+    for (const std::size_t nPosto : collasso.aFinali) {
+        nPosto < nRecord ? SegnaFinale(stato, nPosto, piano.InGruppo(nPosto), piano)
+                         : piano.aFinali.push_back(nPosto);
     }
-    return nPassano;
+    piano.aUsati = Usati(piano);
+    piano.nCifre = static_cast<std::size_t>(std::bit_width(nRecord + piano.aLink.size() + 1));
+    return piano;
 }
 
 } // namespace ordavel

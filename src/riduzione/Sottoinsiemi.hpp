@@ -10,6 +10,8 @@
 
 #include "ordavel/records.hpp"
 
+#include "core/ModBinomiali.hpp"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -19,21 +21,9 @@
 namespace ordavel {
 
 /// Sets larger than this have no rank here.
-inline constexpr std::size_t kSottoinsiemeMassimo = 10;
+inline constexpr std::size_t kSottoinsiemeMassimo = kGrandezzaBinomiali;
 /// Places that a rank can speak of: the numbers 0 to 90.
-inline constexpr std::size_t kPosti = kNumeroMassimo + 1;
-
-/// C(n, k) for n of 0 to 91 and k of 0 to 10.
-inline constexpr auto kBinomiali = [] {
-    std::array<std::array<std::uint64_t, kSottoinsiemeMassimo + 1>, kPosti + 1> aBinomiali{};
-    for (std::size_t n = 0; n <= kPosti; ++n) {
-        aBinomiali[n][0] = 1;
-        for (std::size_t k = 1; k <= kSottoinsiemeMassimo && n > 0; ++k) {
-            aBinomiali[n][k] = aBinomiali[n - 1][k - 1] + aBinomiali[n - 1][k];
-        }
-    }
-    return aBinomiali;
-}();
+inline constexpr std::size_t kPosti = kPostiBinomiali;
 
 /// How many sets of nGrandezza there are among nPosti places.
 /// Takes    nPosti       0 to 91
