@@ -15,5 +15,5 @@ if(ORDAVEL_CLI)
 endif()
 # Beside the library, where it looks for them.
 if(ORDAVEL_ESTERNI)
-  install(TARGETS trvrdcol LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+  install(TARGETS trvrdcol TorvanSvilSist LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 endif()

@@ -37,6 +37,7 @@ struct ControlliOrdavel {
     Barra ProgBarXP1;                               ///< 0 to 100
     Barra PanPerc;                                  ///< percentage of a text export, visible during it
     Controllo PanSviluppo;                          ///< visible during a run
+    Temporizzatore Timer1;                          ///< asks a run of the external engine how far it is
     BarraStrumenti Toolbar2;                        ///< keys, tips and menus
     SelettoreNumeri SelnovoNumeri1;
     Disegno PicProno;                 ///< the picks as a strip of two lines

@@ -28,12 +28,12 @@
 #include "ordavel/ArchivioProprieta.hpp"
 #include "ordavel/ContaSistema.hpp"
 #include "ordavel/ControlliOrdavel.hpp"
+#include "ordavel/EventiOrdavel.hpp"
 #include "ordavel/GrigliaCondizioni.hpp"
 #include "ordavel/Piattaforma.hpp"
 #include "ordavel/StatoSviluppo.hpp"
 #include "ordavel/esporta.hpp"
 
-#include <functional>
 #include <memory>
 #include <span>
 #include <string>
@@ -46,17 +46,9 @@ class DialogoCondizione;
 class F_NavigaSistema;
 class F_Riduzione;
 class FileBinario;
+class LibreriaSviluppo;
 class OspiteDialoghi;
 struct StatoRiduzione;
-
-/// What the component tells its host.
-struct EventiOrdavel {
-    std::function<void()>
-        CondizioniPressed; ///< the button "Condizioni", behind the repeat of the last editor
-    /// The button "StampaSk" while there are columns; takes the game's name, which the host may change.
-    std::function<void(std::string& sTipogioco)> StampaSk;
-    std::function<void(std::string_view sProprieta)> PropertyChanged; ///< a setting changed, by its name
-};
 
 class ORDAVEL_EXPORT Ordavel {
 public:
@@ -112,8 +104,7 @@ public:
     /// "Errore creazione percorso " and the path, and change nothing.
     /// Gives    whether the folder was taken
     bool PoniDirSistemi(const std::string& sPercorso);
-    bool PoniPercorsoTemp(
-        const std::string& sPercorso); ///< also sets the working column file, "Sviluppo.col" in it
+    bool PoniPercorsoTemp(const std::string& sPercorso); ///< also sets the working column file in it
     bool PoniPercorsoSalvaColonne(const std::string& sPercorso);
     [[nodiscard]] const std::string& DirSistemi() const noexcept { return m_DirSistemi; }
     [[nodiscard]] const std::string& PercorsoTemp() const noexcept { return m_PercorsoTemp; }
@@ -261,18 +252,21 @@ public:
     /// Refused with a warning when there are fewer numbers than the class, or links do not match, and with the
     /// failure box when the working file cannot be deleted. During the run the panel is visible and Stop is the only command; at the end a box tells the time.
     /// Gives    true when the run was begun, also when it was stopped or failed on its way
-    /// Fails    11: no class is selected; what compiling the links and reading the emulated draws raise
+    /// Fails    11: no class is selected; what compiling the links and reading the emulated draws raise;
+    ///          53, 438: the library of the external engine, or a function of it, is missing
     bool GestSviluppo();
 
     /// Puts the conditions over the columns of a file; the result goes to the working column file, which may be
     /// the source: it is then moved aside to its name plus ".old". A file without columns is passed over.
     bool GestSviluppoDaFileColonne(const std::string& sFileColonne);
 
-    /// The stop command: asks "Interrompere ?", and on yes the run ends at its next refresh.
+    /// The stop command: asks "Interrompere ?", and on yes the run ends at its next refresh; the external engine is
+    /// told to stop. What that fails with is shown under "OrdavelSis.Toolbar2_ButtonClick".
     void Stop();
 
-    /// Takes over the counts of the external engine, which is not there yet: failure 53 for its library.
-    static void AggiornaProgressSviluppoDll();
+    /// Shows how far the external engine is, on labels and bar, and lets events run; Timer1 calls it each second.
+    /// Fails    53: there is no library; 438: it lacks a function; 11: there was no run; 6: its count is none
+    void AggiornaProgressSviluppoDll();
 
     /// What the last run compiled and counted.
     [[nodiscard]] const StatoSviluppo& UltimoSviluppo() const noexcept { return m_Stato; }
@@ -378,6 +372,7 @@ public:
 
 private:
     class AvanzamentoPannello;
+    class CorsaEsterna;
     class CorsaInVista;
     class ExportInVista;
     class RiduzioneInCorso;
@@ -438,11 +433,14 @@ private:
     void MostraFineSviluppo(float nInizio);
     [[nodiscard]] std::int16_t ChiediColonneDaEmulare();
     [[nodiscard]] const std::string& FileBdGioco() const;
-    void PreparaEmulatore();
+    std::string PreparaEmulatore();
     void CaricaEmulatore();
     void PreparaCorsa();
     void SviluppaCondizionato();
-    void SviluppaCondizionatoEsterno();
+    void SviluppaCondizionatoEsterno(const std::string& sFileEmulatore);
+    [[nodiscard]] bool ConsegnaSistema(const std::string& sColonne, std::string sSistema);
+    void GetCondizioniFromFile(const std::string& sFile);
+    void Timer1_Timer();
     void SviluppaCondizionatoDaFileColonne(const std::string& sFileColonne);
 
     // Columns.
@@ -452,6 +450,7 @@ private:
     [[nodiscard]] std::string NomeSuggerito() const;
 
     // System file.
+    bool SalvaSistema(std::string& sFile, bool bAzzeraModificato);
     void ScriviSistema(const std::string& sFile);
     bool LeggiSistema();
     void ImpostaNumeriDaFile(const Tabella<Booleano, 1, kNumeroMassimo>& aNumeri);
@@ -468,6 +467,7 @@ private:
     std::unique_ptr<F_NavigaSistema> m_NavigaSistema; ///< loaded at its first use
     std::shared_ptr<F_Riduzione> m_Riduzione;         ///< loaded at its first use, until it was shown
     std::unique_ptr<StatoRiduzione> m_StatoRiduzione;
+    std::unique_ptr<LibreriaSviluppo> m_Esterna; ///< bound at its first call
 
     std::string m_FileSistema;
     std::string m_FileColonne;

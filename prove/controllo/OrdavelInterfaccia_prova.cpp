@@ -149,7 +149,13 @@ constexpr auto kMembri = std::to_array<Membro>({
          EXPECT_EQ(b.sistema.GetGridCond().Riga(1).sCondizione, "Ponte");
      }},
     {25, "AggiornaProgressSviluppoDll",
-     [](Banco& b) { EXPECT_EQ(NumeroErrore([&] { b.sistema.AggiornaProgressSviluppoDll(); }), 53); }},
+     [](Banco& b) {
+         EXPECT_EQ(NumeroErrore([&] { b.sistema.AggiornaProgressSviluppoDll(); }), 11) << "nessuna corsa";
+         b.Sviluppa();
+         b.sistema.Controlli().LabSviluppate.Testo.Poni("prima");
+         b.sistema.AggiornaProgressSviluppoDll();
+         EXPECT_NE(b.sistema.Controlli().LabSviluppate.Testo.Valore(), "prima");
+     }},
     {26, "GestSviluppo",
      [](Banco& b) {
          b.Sviluppa();

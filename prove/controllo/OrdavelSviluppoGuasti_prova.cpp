@@ -172,21 +172,5 @@ TEST_F(OrdavelSviluppoGuasti, UnFileDiLavoroCheNonSiCancellaNonSiMescola)
     ExpectFermo();
 }
 
-TEST_F(OrdavelSviluppoGuasti, SenzaLaLibreriaEsternaSiMostraCheManca)
-{
-    Pronostico(3, 1, 4);
-    Sviluppa();
-    sistema.Controlli().CmbMotSviluppo.Indice.Poni(1);
-    EXPECT_TRUE(sistema.GestSviluppo());
-    EXPECT_THAT(piattaforma.Messaggi(),
-                ElementsAre(Fallimento("OrdavelSisE.SviluppaCondizionatoEsterno",
-                                       Errore(eErrore::fileNonTrovato, "TorvanSvilSist")),
-                            FineSviluppo()));
-    EXPECT_FALSE(sistema.ColonneValide());
-    EXPECT_FALSE(std::filesystem::exists(sistema.FileColonne()));
-    EXPECT_FALSE(Abilitato("VisualizzaColonne"));
-    ExpectFermo();
-}
-
 } // namespace
 } // namespace ordavel

@@ -1,8 +1,8 @@
 // Ricerca_prova.cpp - the parts of the search, each against its plain definition.
 
 #include "RiduzioneProva.hpp"
+#include "core/Fili.hpp"
 #include "esterni/trvrdcol/Avido.hpp"
-#include "esterni/trvrdcol/Fili.hpp"
 #include "esterni/trvrdcol/Guadagni.hpp"
 #include "esterni/trvrdcol/Incidenza.hpp"
 #include "esterni/trvrdcol/Regioni.hpp"

@@ -32,6 +32,7 @@ CASA = {
     "Piattaforma.hpp": "piattaforma",
     "VistaCondizioni.hpp": "piattaforma",
     "ControlliOrdavel.hpp": "controllo",
+    "EventiOrdavel.hpp": "controllo",
     "Ordavel.hpp": "controllo",
 }
 

@@ -3,6 +3,7 @@
 #include "cli/Comandi.hpp"
 
 #include "analisi/F_EffettoCond.hpp"
+#include "cli/Esterno.hpp"
 #include "cli/Misure.hpp"
 #include "cli/Rispondi.hpp"
 #include "cli/Sessione.hpp"
@@ -108,6 +109,9 @@ bool PreparaCorsa(Sessione& sessione, const OpzioniCorsa& opzioni)
         return false;
     }
     UsaArchivio(sessione, opzioni.sArchivio, opzioni.sRuota);
+    if (opzioni.sMotore == "esterno") {
+        UsaMotoreEsterno(sessione);
+    }
     if (opzioni.sOrigine.empty() && sistema.classe() == 0) {
         sessione.Desktop().Avvisa("la classe di " + opzioni.sSistema +
                                   " non è da 2 a 10: forse non è un file di sistema");
@@ -142,7 +146,9 @@ bool Esegui(Sessione& sessione, const OpzioniCorsa& opzioni, EsitoCorsa& esito)
         if (PiattaformaCli::StopChiesto() && !stato.bStopSviluppo) {
             sistema.Stop();
         }
-        barra.Aggiorna(stato.nSviluppate, stato.nCondizionate);
+        if (!SegueMotoreEsterno(sessione)) {
+            barra.Aggiorna(stato.nSviluppate, stato.nCondizionate);
+        }
     });
     barra.Inizia(esito.nIntegrali);
     const auto inizio = Orologio::now();
@@ -154,10 +160,10 @@ bool Esegui(Sessione& sessione, const OpzioniCorsa& opzioni, EsitoCorsa& esito)
     return bCorso;
 }
 
-void RaccogliEsito(ordavel::Ordavel& sistema, EsitoCorsa& esito)
+void RaccogliEsito(ordavel::Ordavel& sistema, bool bEsterno, EsitoCorsa& esito)
 {
     const StatoSviluppo& stato = sistema.UltimoSviluppo();
-    esito.nSviluppate = stato.nSviluppate;
+    esito.nSviluppate = bEsterno ? SviluppateEsterne() : stato.nSviluppate;
     esito.nCondizionate = ArrotondaPari(NumeroColonneFile(sistema.FileColonne()));
     esito.bInterrotto = stato.bStopSviluppo;
     if (!sistema.GetGridCond().Vuota(1)) {
@@ -174,14 +180,18 @@ bool CorriProtetto(Sessione& sessione, const OpzioniCorsa& opzioni, EsitoCorsa& 
     }
     esito.nIntegrali =
         esito.bDaFile ? ArrotondaPari(NumeroColonneFile(opzioni.sOrigine)) : sistema.ColonneIntegrali();
-    if (esito.nIntegrali > std::numeric_limits<std::int32_t>::max()) {
+    const bool bEsterno = opzioni.sMotore == "esterno";
+    if (!bEsterno && esito.nIntegrali > std::numeric_limits<std::int32_t>::max()) {
         sessione.Desktop().Avvisa("le colonne sono " + FormattaNumero(esito.nIntegrali) +
                                   ": il conto si ferma con un errore dopo 2.147.483.647");
     }
     if (!Esegui(sessione, opzioni, esito)) {
         return false;
     }
-    RaccogliEsito(sistema, esito);
+    RaccogliEsito(sistema, bEsterno, esito);
+    if (bEsterno && !sessione.Desktop().Critico()) {
+        ControllaMotoreEsterno(sistema);
+    }
     if (opzioni.bEffetto) {
         return !sessione.Desktop().Critico();
     }

@@ -19,6 +19,7 @@ struct OpzioniCorsa {
     std::string sGioco;    ///< name of a game; empty for the first
     std::string sArchivio; ///< its draw archive, for an emulator; empty for none
     std::string sRuota;    ///< wheel of "Lotto" that is emulated; empty for the first
+    std::string sMotore;   ///< "interno", "esterno", or empty for the first
     bool bEffetto = false; ///< shows the effect of the conditions and writes no columns
     bool bJson = false;
 };

@@ -144,8 +144,16 @@ void ControllaRuota(const std::string& sRuota)
     }
 }
 
+void ControllaMotore(const std::string& sMotore)
+{
+    if (!sMotore.empty() && sMotore != "interno" && sMotore != "esterno") {
+        throw UsoErrato("--motore è \"interno\" o \"esterno\", non \"" + sMotore + "\"");
+    }
+}
+
 void ControllaCorsa(const Riga& riga)
 {
+    ControllaMotore(riga.corsa.sMotore);
     ControllaGioco(riga.corsa.sGioco);
     ControllaRuota(riga.corsa.sRuota);
 }
@@ -218,9 +226,7 @@ void ControllaRiduci(const Riga& riga)
     if (opzioni.sUscita.empty() || !opzioni.nPunti) {
         throw UsoErrato("servono -o e --punti, oppure --sequenziale e --riduzione");
     }
-    if (!opzioni.sMotore.empty() && opzioni.sMotore != "interno" && opzioni.sMotore != "esterno") {
-        throw UsoErrato("--motore è \"interno\" o \"esterno\", non \"" + opzioni.sMotore + "\"");
-    }
+    ControllaMotore(opzioni.sMotore);
     if (opzioni.nSecondi && (opzioni.sMotore != "esterno" || *opzioni.nSecondi < 0)) {
         throw UsoErrato("--secondi va con --motore esterno, da 0 in su");
     }

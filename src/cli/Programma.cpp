@@ -303,7 +303,9 @@ void AggiungiComandi(CLI::App& programma, Riga& riga)
     programma.footer(kChiusura);
     AggiungiCrea(programma, riga);
     AggiungiMostra(programma, riga);
-    AggiungiCorsa(programma, riga, "sviluppa", "Sviluppa un sistema in un file di colonne");
+    AggiungiCorsa(programma, riga, "sviluppa", "Sviluppa un sistema in un file di colonne")
+        ->add_option("--motore", riga.corsa.sMotore,
+                     R"("interno" (di suo), o "esterno", la libreria TorvanSvilSist)");
     AggiungiCorsa(programma, riga, "filtra", "Filtra un file di colonne con le condizioni di un sistema")
         ->add_option("--da", riga.corsa.sOrigine, "Il file .col da filtrare")
         ->required();

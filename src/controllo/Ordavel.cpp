@@ -10,6 +10,7 @@
 #include "core/ModFunzGeneriche.hpp"
 #include "core/ModGiochi.hpp"
 #include "core/ModNumeri.hpp"
+#include "motore/LibreriaSviluppo.hpp"
 #include "motore/ModIntegrali.hpp"
 #include "riduzione/ModRiduci.hpp"
 
@@ -34,7 +35,8 @@ Ordavel::Ordavel(Piattaforma& piattaforma)
     : m_Piattaforma(piattaforma),
       m_Statistica(piattaforma.CreaStatistica()),
       m_Ospite(std::make_unique<OspiteOrdavel>(*this, piattaforma, m_Statistica)),
-      m_StatoRiduzione(std::make_unique<StatoRiduzione>())
+      m_StatoRiduzione(std::make_unique<StatoRiduzione>()),
+      m_Esterna(std::make_unique<LibreriaSviluppo>())
 {
     m_Controlli.Toolbar2.aPulsanti = PulsantiOrdavel();
     m_Controlli.PanSviluppo.Visibile.Poni(false);
@@ -47,6 +49,8 @@ Ordavel::Ordavel(Piattaforma& piattaforma)
     m_Controlli.CmbRid.Indice.AlCambio([this] { CambioRiduzione(); });
     m_Controlli.CmbMotSviluppo.Indice.AlCambio([this] { CambioMotore(); });
     m_Controlli.SelnovoNumeri1.Scelti.AlCambio([this] { CambioNumeri(); });
+    m_Controlli.Timer1.nMillisecondi = 1000;
+    m_Controlli.Timer1.scatto = [this] { Timer1_Timer(); };
     m_Controlli.PanPerc.Visibile.Poni(false);
     m_Controlli.SelnovoNumeri1.Visibile.Poni(false);
     MisuraLarghezze();

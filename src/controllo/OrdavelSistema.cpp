@@ -26,9 +26,12 @@ std::string LineaQuadro(const VoceRecupero& voce)
 
 bool Ordavel::Salva(std::string& sFile, bool bAzzeraModificato)
 {
-    if (m_bInCorso) {
-        return false;
-    }
+    return !m_bInCorso && SalvaSistema(sFile, bAzzeraModificato);
+}
+
+/// The same for a run, which hands its system to the external engine this way.
+bool Ordavel::SalvaSistema(std::string& sFile, bool bAzzeraModificato)
+{
     return ConGestore(m_Piattaforma, "OrdavelSis.Salva",
                       [&] {
                           if (sFile.empty()) {
@@ -98,7 +101,7 @@ bool Ordavel::LeggiSistema()
     FileBinario file(m_FileSistema, eApertura::lettura);
     const std::optional<ParteSistema> parte = LeggiParteSistema(file);
     if (!parte) {
-        Avvisa("Il sistema scelto è salvato in formato non più supportato");
+        Avvisa(kFormatoNonSupportato);
         return false;
     }
     ApriColonne(file);

@@ -9,6 +9,7 @@
 #include "core/ModTesti.hpp"
 #include "editor/F_ScegliRuota.hpp"
 #include "emulatore/ModEmulatore.hpp"
+#include "motore/LibreriaSviluppo.hpp"
 #include "motore/ModIntegrali.hpp"
 #include "motore/ModSistemiCond.hpp"
 #include "persistenza/ModFileColonne.hpp"
@@ -142,12 +143,13 @@ bool Ordavel::GestSviluppo()
     if (!VerificaCoerenzaLink()) {
         return false;
     }
+    m_PercorsoTemp = ConSeparatore(m_PercorsoTemp); // kept settings may name it without
     m_FileColonne = m_PercorsoTemp + "Sviluppo.col";
     // Columns go behind what a file holds: one that cannot be deleted would mix two results.
     if (!KillFile(m_FileColonne, m_Piattaforma)) {
         return false;
     }
-    PreparaEmulatore();
+    const std::string sFileEmulatore = PreparaEmulatore();
     const CorsaInVista corsa(*this);
     m_Piattaforma.LasciaEventi();
     m_ColonneDaFiltrare =
@@ -157,7 +159,7 @@ bool Ordavel::GestSviluppo()
         CaricaEmulatore();
         SviluppaCondizionato();
     } else {
-        SviluppaCondizionatoEsterno();
+        SviluppaCondizionatoEsterno(sFileEmulatore);
     }
     m_Controlli.Toolbar2.Pulsante("FiltraSvilPrec").Abilitato.Poni(true);
     AggiornaComandiColonne();
@@ -188,8 +190,13 @@ void Ordavel::Stop()
 {
     const eRisposta risposta = m_Piattaforma.MostraMessaggio(
         {.icona = eIcona::domanda, .sTitolo = {}, .sTesto = "Interrompere ?", .pulsanti = ePulsanti::siNo});
-    if (risposta == eRisposta::si) {
-        m_Stato.bStopSviluppo = true;
+    if (risposta != eRisposta::si) {
+        return;
+    }
+    m_Stato.bStopSviluppo = true; // first: a run of the internal engine ends even when the library is missing
+    // A run keeps the engine that it has begun with, whatever is chosen meanwhile.
+    if (m_MotoreSviluppo != eMotoreSviluppo::interno || m_Controlli.Timer1.Acceso.Valore()) {
+        ConGestore(m_Piattaforma, "OrdavelSis.Toolbar2_ButtonClick", [this] { m_Esterna->StopSviluppo(); });
     }
 }
 
@@ -220,19 +227,22 @@ const std::string& Ordavel::FileBdGioco() const
 }
 
 /// Builds the emulated draws of a system that asks for them. When that cannot be, older ones stay.
-void Ordavel::PreparaEmulatore()
+/// Gives    the path of their file; "-" for a system without an emulator
+std::string Ordavel::PreparaEmulatore()
 {
     if (!IsCondizionePresente("Emulatore")) {
-        return;
+        return "-";
     }
+    std::string sFile = m_PercorsoTemp + "Emulatore.dat";
     const std::int16_t nRuota = ChiediColonneDaEmulare();
-    if (!CreaDatiEmulatore(m_PercorsoTemp + "Emulatore.dat", GetQuantitaColDaEmulareFromGrid(), nRuota,
-                           GetIdCmbTipoGiocoString(), FileBdGioco(), m_Piattaforma)) {
+    if (!CreaDatiEmulatore(sFile, GetQuantitaColDaEmulareFromGrid(), nRuota, GetIdCmbTipoGiocoString(),
+                           FileBdGioco(), m_Piattaforma)) {
         m_Piattaforma.MostraMessaggio({.icona = eIcona::nessuna,
                                        .sTitolo = {},
                                        .sTesto = "Filtro emulatore non creato",
                                        .pulsanti = ePulsanti::ok});
     }
+    return sFile;
 }
 
 void Ordavel::CaricaEmulatore()
@@ -262,18 +272,6 @@ void Ordavel::SviluppaCondizionato()
     avanzamento.MostraUltimo();
     ApriFileColonne(m_FileColonne);
     AbilitaComandiSviluppo(false);
-}
-
-void Ordavel::SviluppaCondizionatoEsterno()
-{
-    m_ColonneValide = false;
-    m_Piattaforma.MostraFallimento("OrdavelSisE.SviluppaCondizionatoEsterno",
-                                   Errore(eErrore::fileNonTrovato, "TorvanSvilSist"));
-}
-
-void Ordavel::AggiornaProgressSviluppoDll()
-{
-    throw Errore(eErrore::fileNonTrovato, "TorvanSvilSist");
 }
 
 void Ordavel::SviluppaCondizionatoDaFileColonne(const std::string& sFileColonne)

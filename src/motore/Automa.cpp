@@ -26,6 +26,27 @@ Automa::Automa(const RecordCondizione& record, std::int16_t nClasse, std::span<c
     }
 }
 
+Automa::Automa(const Automa& altro, Condivisi /*condivisi*/)
+    : m_nClasse(altro.m_nClasse),
+      m_Forma(altro.m_Forma),
+      m_aScelti(altro.m_aScelti),
+      m_Prova(altro.m_Prova),
+      m_aLivelli(altro.m_aLivelli),
+      m_Tavole(altro.m_Tavole),
+      m_aRighe(altro.m_aRighe.size(), nullptr)
+{
+    Esponi();
+}
+
+void Automa::Esponi() noexcept
+{
+    m_aPassi = m_Tavole->aPassi;
+    m_aOk = m_Tavole->aOk;
+    m_aRec = m_Tavole->aRec;
+    m_aRottiFino = m_Tavole->aRottiFino;
+    m_aVerdetti = m_Tavole->aVerdetti;
+}
+
 bool Automa::Prepara(std::size_t nByte, const Continua& continua)
 {
     if (m_Forma == eChiave::nessuna || m_aScelti.size() < Classe()) {
@@ -50,16 +71,14 @@ std::size_t Automa::FinePosti(std::size_t nDati) const noexcept
 void Automa::Abbandona()
 {
     m_aLivelli.clear();
-    m_aPassi = {};
-    m_aOk = {};
-    m_aRec = {};
-    m_aVerdetti = {};
+    m_Tavole = std::make_shared<Tavole>();
+    Esponi();
 }
 
 /// What states, counts, verdicts and all rows take, about.
 std::size_t Automa::ByteUsati() const noexcept
 {
-    const std::size_t nConPassi = m_aPassi.size() / m_aScelti.size();
+    const std::size_t nConPassi = m_Tavole->aPassi.size() / m_aScelti.size();
     const std::size_t nPerPosto = sizeof(std::uint32_t) + 2 * sizeof(std::uint64_t);
     const std::size_t nRighe =
         m_aLivelli.size() == Classe() ? m_aLivelli[Livelli() - 1] - m_aLivelli[Livelli() - 2] : 0;
@@ -133,7 +152,7 @@ void Automa::CreaPassi(std::uint32_t nStato, std::size_t nDati, const Aggiunte& 
 {
     const Stato stato = m_aStati[nStato];
     Colonna dopo = stato.inizio;
-    m_aPassi.resize((nStato + std::size_t{1}) * m_aScelti.size(), kIgnoto);
+    m_Tavole->aPassi.resize((nStato + std::size_t{1}) * m_aScelti.size(), kIgnoto);
     for (std::size_t p = stato.nPrimo; p < FinePosti(nDati); ++p) {
         dopo[static_cast<std::int64_t>(nDati) + 1] = m_aScelti[p];
         const std::uint64_t nChiave = ChiaveDopo(stato, dopo, nDati, p, aAggiunte);
@@ -143,7 +162,7 @@ void Automa::CreaPassi(std::uint32_t nStato, std::size_t nDati, const Aggiunte& 
             m_aStati.push_back({dopo, nChiave, p + 1});
         }
         m_aStati[nDopo].nPrimo = std::min(m_aStati[nDopo].nPrimo, p + 1);
-        m_aPassi[nStato * m_aScelti.size() + p] = nDopo;
+        m_Tavole->aPassi[nStato * m_aScelti.size() + p] = nDopo;
     }
 }
 
@@ -153,7 +172,7 @@ bool Automa::CreaVerdetti(const Continua& continua)
         if (!continua()) {
             return false;
         }
-        m_aVerdetti.push_back(Giudica(m_aStati[n].inizio, m_aStati[n].nPrimo));
+        m_Tavole->aVerdetti.push_back(Giudica(m_aStati[n].inizio, m_aStati[n].nPrimo));
     }
     return true;
 }
@@ -184,9 +203,10 @@ Verdetti Automa::Giudica(const Colonna& inizio, std::size_t nDa)
 bool Automa::CreaConti(const Continua& continua)
 {
     const auto recupera = [](const Verdetti& verdetti) { return !verdetti.rec.Vuota(); };
-    m_aOk.assign(m_aLivelli.back() * (m_aScelti.size() + 1), 0);
-    m_aRec.assign(std::ranges::any_of(m_aVerdetti, recupera) ? m_aOk.size() : 0, 0);
-    m_aRottiFino.assign(m_aStati.size(), 0);
+    m_Tavole->aOk.assign(m_aLivelli.back() * (m_aScelti.size() + 1), 0);
+    m_Tavole->aRec.assign(std::ranges::any_of(m_Tavole->aVerdetti, recupera) ? m_Tavole->aOk.size() : 0, 0);
+    m_Tavole->aRottiFino.assign(m_aStati.size(), 0);
+    Esponi();
     m_aRighe.assign(m_aLivelli[Livelli() - 1] - m_aLivelli[Livelli() - 2], nullptr);
     std::size_t nDati = Classe() - 1;
     for (auto nStato = static_cast<std::uint32_t>(m_aStati.size()); nStato-- > 0;) { // lengths downwards
@@ -202,9 +222,9 @@ bool Automa::CreaConti(const Continua& continua)
 void Automa::PoniConti(std::uint32_t nStato, std::size_t nPosto, Conti conti) noexcept
 {
     const std::size_t n = nStato * (m_aScelti.size() + 1) + nPosto;
-    m_aOk[n] = conti.nOk;
-    if (!m_aRec.empty()) {
-        m_aRec[n] = conti.nRec;
+    m_Tavole->aOk[n] = conti.nOk;
+    if (!m_Tavole->aRec.empty()) {
+        m_Tavole->aRec[n] = conti.nRec;
     }
 }
 
@@ -213,7 +233,7 @@ void Automa::ContaVerdetti(std::uint32_t nStato)
 {
     const Maschera rotti = VerdettiDi(nStato).rotti;
     for (std::size_t p = m_aScelti.size(); p-- > m_aStati[nStato].nPrimo && m_aRottiFino[nStato] == 0;) {
-        m_aRottiFino[nStato] =
+        m_Tavole->aRottiFino[nStato] =
             Contiene(rotti, m_aScelti.size(), p) ? static_cast<std::uint8_t>(p + 1) : std::uint8_t{0};
     }
 }
@@ -226,7 +246,7 @@ void Automa::ContaStato(std::uint32_t nStato, std::size_t nDati)
         conti = conti + ContiDa(nDopo, p + 1);
         PoniConti(nStato, p, conti);
         if (m_aRottiFino[nStato] == 0 && RottiDa(nDopo, p + 1)) {
-            m_aRottiFino[nStato] = static_cast<std::uint8_t>(p + 1);
+            m_Tavole->aRottiFino[nStato] = static_cast<std::uint8_t>(p + 1);
         }
     }
 }

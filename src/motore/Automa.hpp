@@ -19,6 +19,7 @@
 #include <deque>
 #include <functional>
 #include <limits>
+#include <memory>
 #include <span>
 #include <unordered_map>
 #include <vector>
@@ -82,6 +83,9 @@ public:
 
     /// Are there states? Otherwise a row is made for a beginning, not for a state.
     [[nodiscard]] bool ConStati() const noexcept { return !m_aLivelli.empty(); }
+
+    /// Another one with the same states, which are not copied, and rows of its own. Two threads may use one each.
+    [[nodiscard]] Automa Gemello() const { return Automa(*this, Condivisi{}); }
 
     /// The state before any number.
     static constexpr std::uint32_t kIniziale = 0;
@@ -150,9 +154,21 @@ private:
         std::vector<std::uint32_t> aPiccole; ///< keys below its size
         std::unordered_map<std::uint64_t, std::uint32_t> aGrandi;
     };
+    /// What does not change any more once it is made.
+    struct Tavole {
+        std::vector<std::uint32_t> aPassi;
+        std::vector<std::uint64_t> aOk;
+        std::vector<std::uint64_t> aRec;
+        std::vector<std::uint8_t> aRottiFino;
+        std::vector<Verdetti> aVerdetti;
+    };
+    struct Condivisi {};
     /// What each place adds to the key at the present position; empty when that depends on the beginning.
     using Aggiunte = std::vector<std::uint64_t>;
 
+    Automa(const Automa& altro, Condivisi condivisi);
+
+    void Esponi() noexcept;
     [[nodiscard]] std::size_t Livelli() const noexcept { return m_aLivelli.size(); }
     [[nodiscard]] std::size_t FinePosti(std::size_t nDati) const noexcept;
     [[nodiscard]] bool CreaStati(std::size_t nByte, const Continua& continua);
@@ -179,11 +195,14 @@ private:
     StatoSviluppo m_Prova; ///< the one condition, for the plain form
     std::vector<Stato> m_aStati;
     std::vector<std::uint32_t> m_aLivelli; ///< first state of each length
-    std::vector<std::uint32_t> m_aPassi;   ///< [states * picks]
-    std::vector<std::uint64_t> m_aOk;  ///< [states up to length class - 2, * (picks + 1)], from each place on
-    std::vector<std::uint64_t> m_aRec; ///< the same, or empty when there are none
-    std::vector<std::uint8_t> m_aRottiFino;
-    std::vector<Verdetti> m_aVerdetti;       ///< [states of length class - 1]
+    std::shared_ptr<Tavole> m_Tavole = std::make_shared<Tavole>();
+    // What the tables hold, where they are read.
+    std::span<const std::uint32_t> m_aPassi; ///< [states * picks]
+    std::span<const std::uint64_t>
+        m_aOk; ///< [states up to length class - 2, * (picks + 1)], from each place on
+    std::span<const std::uint64_t> m_aRec; ///< the same, or empty when there are none
+    std::span<const std::uint8_t> m_aRottiFino;
+    std::span<const Verdetti> m_aVerdetti;   ///< [states of length class - 1]
     std::vector<const RigaAutoma*> m_aRighe; ///< [states of length class - 2]
     std::deque<RigaAutoma> m_aFatte;
     RigaAutoma m_Volante;

@@ -47,32 +47,36 @@ std::uint64_t TramandaParola(std::uint64_t nRec, std::uint64_t nOk, std::uint64_
 
 CondizioniBlocchi::CondizioniBlocchi(std::span<const std::uint8_t> aScelti, std::int16_t nClasse,
                                      StatoSviluppo& stato, eNucleo nucleo, std::size_t nByte,
-                                     const Automa::Continua& continua)
+                                     const Automa::Continua& continua, const CondizioniBlocchi* modello)
     : m_Stato(stato),
       m_aPrima(stato.aCondizioni),
       m_Piano(PianificaVerdetto(stato)),
       m_Lavoro(m_Piano),
       m_Nucleo(ScegliNucleoBlocchi(nucleo)),
+      m_aScelti(aScelti.begin(), aScelti.end()),
       m_nScelti(aScelti.size()),
       m_nClasse(nClasse)
 {
     for (std::size_t y = 0; y < m_nScelti; ++y) {
         m_Tutte.Poni(y, PostiSopra(m_nScelti, y));
     }
-    CreaCondizioni(aScelti, nucleo, nByte, continua);
+    CreaCondizioni(aScelti, nucleo, nByte, continua, modello);
     OrdinaCondizioni();
     CreaRigheFisse();
 }
 
 void CondizioniBlocchi::CreaCondizioni(std::span<const std::uint8_t> aScelti, eNucleo nucleo,
-                                       std::size_t nByte, const Automa::Continua& continua)
+                                       std::size_t nByte, const Automa::Continua& continua,
+                                       const CondizioniBlocchi* modello)
 {
     for (std::size_t i = 0; i < m_aPrima.size() && !m_bInterrotte; ++i) {
         if (!SiMisura(m_aPrima[i].Tipo)) {
             continue;
         }
-        Condizione& condizione = m_aCondizioni.emplace_back(Automa(m_aPrima[i], m_nClasse, aScelti, m_Stato));
-        m_bInterrotte = !condizione.automa.Prepara(nByte / m_aPrima.size(), continua);
+        const std::size_t nQui = m_aCondizioni.size();
+        Condizione& condizione = m_aCondizioni.emplace_back(
+            modello != nullptr ? modello->m_aCondizioni[nQui].automa.Gemello()
+                               : CreaAutoma(i, aScelti, nByte / m_aPrima.size(), continua));
         if (RigheVolanti::Adatte(m_aPrima[i], m_Stato)) {
             condizione.volanti.emplace(m_aPrima[i], m_nClasse, aScelti, m_Stato, nucleo);
         }
@@ -82,6 +86,14 @@ void CondizioniBlocchi::CreaCondizioni(std::span<const std::uint8_t> aScelti, eN
         condizione.bRiporto = m_aPrima[i].EsitoRec != kFalso;
         condizione.aStati.assign(static_cast<std::size_t>(kClasseMassima), Automa::kIniziale);
     }
+}
+
+Automa CondizioniBlocchi::CreaAutoma(std::size_t nRecord, std::span<const std::uint8_t> aScelti,
+                                     std::size_t nByte, const Automa::Continua& continua)
+{
+    Automa automa(m_aPrima[nRecord], m_nClasse, aScelti, m_Stato);
+    m_bInterrotte = !automa.Prepara(nByte, continua);
+    return automa;
 }
 
 void CondizioniBlocchi::OrdinaCondizioni()
@@ -98,6 +110,7 @@ void CondizioniBlocchi::OrdinaCondizioni()
             m_bFalliscono = m_bFalliscono || condizione.automa.RottiDa(Automa::kIniziale, 0);
             (condizione.bOgniBlocco ? m_aSempre : m_aPassi).push_back(&condizione);
         }
+        condizione.bContata = condizione.bOgniBlocco;
         if (condizione.bOgniBlocco) {
             m_aOgniBlocco.push_back(&condizione);
         }
@@ -109,6 +122,8 @@ void CondizioniBlocchi::OrdinaCondizioni()
         }
         m_bPiene = m_bPiene && (!condizione.bOgniBlocco || condizione.ruolo == eRuolo::libero);
     }
+    m_aContate = m_aOgniBlocco;
+    m_bOgniBlocco = !m_aOgniBlocco.empty();
     std::ranges::stable_sort(m_aPassi, [](const Condizione* a, const Condizione* b) {
         const auto misura = [](const Condizione& c) {
             return std::pair(c.ruolo == eRuolo::libero, c.automa.OkDa(Automa::kIniziale, 0));
@@ -256,7 +271,7 @@ void CondizioniBlocchi::Tramanda(Condizione& condizione, std::size_t nPrimo) con
 
 void CondizioniBlocchi::ContaBlocco(std::size_t nPrimo, const MaschereRiga& attive)
 {
-    for (Condizione* condizione : m_aOgniBlocco) {
+    for (Condizione* condizione : m_aContate) {
         condizione->bCoppia ? ContaCoppia(*condizione, nPrimo, attive)
                             : ContaRighe(*condizione, nPrimo, attive);
     }
@@ -299,7 +314,7 @@ void CondizioniBlocchi::PoniConti(std::uint64_t nColonne, const PostiColonna& aP
     m_nColonne = nColonne;
     m_Ultimi = aPosti;
     for (Condizione& condizione : m_aCondizioni) {
-        if (!condizione.bOgniBlocco) {
+        if (!condizione.bContata) {
             ContaFinoA(condizione, aPosti, nDiversi);
         }
         PoniConti(condizione);
@@ -308,6 +323,10 @@ void CondizioniBlocchi::PoniConti(std::uint64_t nColonne, const PostiColonna& aP
 
 void CondizioniBlocchi::ContaFinoA(Condizione& condizione, const PostiColonna& aPosti, std::size_t nDiversi)
 {
+    if (condizione.compagni) {
+        condizione.contati = condizione.compagni->FinoA(aPosti);
+        return;
+    }
     const std::uint64_t nRec = condizione.contati.nRec;
     condizione.contati = condizione.conti.FinoA(aPosti, nDiversi);
     if (condizione.bCoppia && condizione.contati.nRec != nRec) {
@@ -321,8 +340,9 @@ void CondizioniBlocchi::PoniConti(const Condizione& condizione)
     RecordCondizione& record = m_Stato.aCondizioni[condizione.nRecord];
     const auto nOk = static_cast<double>(condizione.contati.nOk);
     const auto nRec = static_cast<double>(condizione.contati.nRec);
+    const std::uint64_t nColonne = condizione.bContata ? m_nGuardate.value_or(m_nColonne) : m_nColonne;
     record.ContaOk = prima.ContaOk + nOk;
-    record.ContaKo = prima.ContaKo + (static_cast<double>(m_nColonne) - nOk);
+    record.ContaKo = prima.ContaKo + (static_cast<double>(nColonne) - nOk);
     record.ContaRec = prima.ContaRec + nRec;
     if (condizione.bCoppia) {
         record.ContaRec = condizione.contati.nRec == 0
@@ -335,9 +355,8 @@ void CondizioniBlocchi::PoniConti(const Condizione& condizione)
 void CondizioniBlocchi::PoniUltimiValori(const Colonna& ultima)
 {
     for (Condizione& condizione : m_aCondizioni) {
-        if (condizione.bCoppia && !condizione.bOgniBlocco) {
-            condizione.bRiporto =
-                condizione.conti.UltimaRecupera(m_nColonne, condizione.contati).value_or(condizione.bRiporto);
+        if (condizione.bCoppia && !condizione.bContata) {
+            condizione.bRiporto = RiportoDopo(condizione, m_nColonne, condizione.contati);
         }
         if (condizione.bCoppia) {
             m_Stato.aCondizioni[condizione.nRecord].EsitoRec = ComeBooleano(condizione.bRiporto);
@@ -346,6 +365,73 @@ void CondizioniBlocchi::PoniUltimiValori(const Colonna& ultima)
     static_cast<void>(VerificaColonna(m_nClasse, ultima, m_Stato));
     for (const Condizione& condizione : m_aCondizioni) {
         PoniConti(condizione);
+    }
+}
+
+/// The recovery verdict of a pair behind so many columns: as long as all pass, that before the first.
+bool CondizioniBlocchi::RiportoDopo(const Condizione& condizione, std::uint64_t nColonne, Conti conti) const
+{
+    return condizione.conti.UltimaRecupera(nColonne, conti)
+        .value_or(m_aPrima[condizione.nRecord].EsitoRec != kFalso);
+}
+
+bool CondizioniBlocchi::InCatena() const
+{
+    return std::ranges::any_of(m_aOgniBlocco, [this](const Condizione* condizione) {
+        return condizione->bCoppia && !condizione->automa.ConStati() && m_Piano.InGruppo(condizione->nRecord);
+    });
+}
+
+bool CondizioniBlocchi::DividiInTratti(bool bGuardaTutto)
+{
+    m_aContate.clear();
+    bool bSoloQui = false; // does a condition count in blocks alone?
+    for (Condizione* condizione : m_aOgniBlocco) {
+        const RecordCondizione& record = m_aPrima[condizione->nRecord];
+        if (ContiCompagni::Adatta(record.Tipo)) {
+            condizione->compagni.emplace(record, m_nClasse, m_aScelti);
+        }
+        condizione->bContata = !condizione->automa.ConStati() && !condizione->compagni;
+        bSoloQui = bSoloQui || condizione->bContata;
+        if (!condizione->compagni) { // a pair's verdict is handed on from block to block
+            m_aContate.push_back(condizione);
+        }
+    }
+    m_bOgniBlocco = bSoloQui && (bGuardaTutto || InCatena());
+    return !bSoloQui || m_bOgniBlocco;
+}
+
+void CondizioniBlocchi::RiprendiDa(std::uint64_t nColonne, const PostiColonna& aUltimi)
+{
+    for (Condizione* condizione : m_aSempre) {
+        condizione->bRiporto = nColonne == 0
+                                   ? m_aPrima[condizione->nRecord].EsitoRec != kFalso
+                                   : RiportoDopo(*condizione, nColonne, condizione->conti.FinoA(aUltimi, 0));
+    }
+}
+
+std::vector<ContiTratto> CondizioniBlocchi::PrendiConti()
+{
+    std::vector<ContiTratto> aConti;
+    for (Condizione* condizione : m_aContate) {
+        aConti.push_back({condizione->contati, condizione->nOkAlRecupero, condizione->bRiporto});
+        condizione->contati = {};
+        condizione->nOkAlRecupero = 0;
+    }
+    return aConti;
+}
+
+void CondizioniBlocchi::PoniContiTratti(std::span<const ContiTratto> aConti, std::uint64_t nGuardate)
+{
+    m_nGuardate = nGuardate;
+    for (std::size_t i = 0; i < m_aContate.size(); ++i) {
+        Condizione& condizione = *m_aContate[i];
+        // Where the automaton counts, PoniConti begins anew.
+        condizione.contati = condizione.bContata ? aConti[i].conti : Conti{};
+        condizione.nOkAlRecupero = aConti[i].nOkAlRecupero;
+        if (condizione.contati.nOk != nGuardate) {
+            condizione.bRiporto = aConti[i].bRiporto;
+        }
     }
 }
 

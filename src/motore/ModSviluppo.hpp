@@ -14,6 +14,7 @@
 #include "motore/Avanzamento.hpp"
 
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace ordavel {
@@ -30,6 +31,15 @@ public:
 
     /// Is there a column at the present place?
     [[nodiscard]] bool Presente() const noexcept { return m_aPosizioni[0] < m_nRighe; }
+
+    /// Goes to a column of at most 10 numbers.
+    /// Takes    aPosti   the places of its numbers among the picks, from 0, ascending
+    void Vai(std::span<const std::size_t> aPosti)
+    {
+        for (std::size_t j = 0; j < m_aPosizioni.size(); ++j) {
+            m_aPosizioni[j] = aPosti[j] - j;
+        }
+    }
 
     /// Writes the column of the present place; the numbers behind the class stay as they are.
     void Componi(Colonna& colonna) const noexcept

@@ -2,8 +2,8 @@
 
 #include "motore/SviluppoBlocchi.hpp"
 
-#include "core/ModBinomiali.hpp"
 #include "motore/ModVerifica.hpp"
+#include "motore/RangoColonne.hpp"
 
 #include <algorithm>
 #include <bit>
@@ -15,29 +15,6 @@ namespace {
 
 /// With more of them the room for states would be too small for each, and the plain form is faster.
 constexpr std::size_t kCondizioniBlocchi = 400;
-
-/// How many columns follow a beginning of nDati numbers when all others come from place nDa on.
-std::int64_t QuanteColonne(std::size_t nScelti, std::size_t nClasse, std::size_t nDati, std::size_t nDa)
-{
-    return static_cast<std::int64_t>(kBinomiali[nScelti - nDa][nClasse - nDati]);
-}
-
-/// The places of column number nColonna, from 0.
-PostiColonna PostiDi(std::size_t nScelti, std::size_t nClasse, std::int64_t nColonna)
-{
-    PostiColonna aPosti{};
-    std::size_t p = 0;
-    for (std::size_t k = 0; k < nClasse; ++k, ++p) {
-        std::int64_t nQui = QuanteColonne(nScelti, nClasse, k + 1, p + 1);
-        while (nColonna >= nQui) {
-            nColonna -= nQui;
-            ++p;
-            nQui = QuanteColonne(nScelti, nClasse, k + 1, p + 1);
-        }
-        aPosti[k] = p;
-    }
-    return aPosti;
-}
 
 } // namespace
 
@@ -179,7 +156,7 @@ void SviluppoBlocchi::PassaIntero(std::size_t nPrimo, std::int64_t nColonne, boo
 /// The columns nDa to nA - 1 of a block, in order.
 void SviluppoBlocchi::Passa(std::size_t nPrimo, std::int64_t nDa, std::int64_t nA, bool bTenute)
 {
-    PreparaAttive(nPrimo, nDa, nA);
+    SegnaColonne(m_aScelti.size(), nPrimo, nDa, nA, m_Alcune);
     m_Condizioni.ContaBlocco(nPrimo, m_Alcune);
     SegnaEsaminate(nA - nDa);
     if (bTenute) {
@@ -187,21 +164,6 @@ void SviluppoBlocchi::Passa(std::size_t nPrimo, std::int64_t nDa, std::int64_t n
             m_Alcune.Poni(y, m_Alcune[y] & m_Tenute[y]);
         }
         Tieni(nPrimo, m_Alcune);
-    }
-}
-
-/// Marks the columns nDa to nA - 1 of a block.
-void SviluppoBlocchi::PreparaAttive(std::size_t nPrimo, std::int64_t nDa, std::int64_t nA)
-{
-    std::int64_t nDavanti = 0; // columns of the places in front
-    for (std::size_t y = nPrimo; y < m_aScelti.size(); ++y) {
-        const auto nSopra = static_cast<std::int64_t>(m_aScelti.size() - 1 - y);
-        const auto dopo = [&](std::int64_t nQuante) { // all but the first nQuante columns of the place
-            return PostiSopra(m_aScelti.size(),
-                              y + static_cast<std::size_t>(std::clamp<std::int64_t>(nQuante, 0, nSopra)));
-        };
-        m_Alcune.Poni(y, Senza(dopo(nDa - nDavanti), dopo(nA - nDavanti)));
-        nDavanti += nSopra;
     }
 }
 

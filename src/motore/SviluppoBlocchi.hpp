@@ -62,7 +62,6 @@ private:
     [[nodiscard]] bool Trabocca(std::int64_t nColonne) const noexcept;
     void Passa(std::size_t nPrimo, std::int64_t nDa, std::int64_t nA, bool bTenute);
     void PassaIntero(std::size_t nPrimo, std::int64_t nColonne, bool bTenute);
-    void PreparaAttive(std::size_t nPrimo, std::int64_t nDa, std::int64_t nA);
     void Tieni(std::size_t nPrimo, const MaschereRiga& tenute);
     void TieniParola(Colonna& colonna, std::uint64_t nParola, const std::uint8_t* aNumeri);
     void TieniUna(const Colonna& colonna);

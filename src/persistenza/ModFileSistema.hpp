@@ -13,9 +13,14 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace ordavel {
+
+/// What is said of a length that does not fit.
+inline constexpr std::string_view kFormatoNonSupportato =
+    "Il sistema scelto è salvato in formato non più supportato";
 
 /// The system part of a file, everything but the columns.
 struct ParteSistema {

@@ -2,7 +2,7 @@
 
 #include "Incidenza.hpp"
 
-#include "Fili.hpp"
+#include "core/Fili.hpp"
 
 #include <algorithm>
 #include <atomic>

@@ -3,11 +3,11 @@
 #include "Miglioramento.hpp"
 
 #include "Avido.hpp"
-#include "Fili.hpp"
 #include "Gruppi.hpp"
 #include "Orbite.hpp"
 #include "Regioni.hpp"
 #include "RicercaLocale.hpp"
+#include "core/Fili.hpp"
 
 #include <algorithm>
 #include <atomic>

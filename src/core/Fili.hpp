@@ -7,7 +7,7 @@
 #include <thread>
 #include <vector>
 
-namespace ordavel::trvrdcol {
+namespace ordavel {
 
 /// Calls azione(0), azione(1), ..., azione(nFili - 1), each on a thread of its own, the first on the caller's. What the
 /// first failing one throws is thrown when all have ended. A thread that the system does not grant is left out.
@@ -41,4 +41,4 @@ template <typename Azione> void InParallelo(unsigned nFili, const Azione& azione
     }
 }
 
-} // namespace ordavel::trvrdcol
+} // namespace ordavel
