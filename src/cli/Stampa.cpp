@@ -26,13 +26,6 @@ std::string_view NomeTipo(TipoCondizione tipo)
     return voce == nullptr ? std::string_view() : voce->sChiave;
 }
 
-/// Do the counters of a kind move?
-bool Conta(TipoCondizione tipo)
-{
-    const VoceCatalogo* voce = TrovaTipo(tipo);
-    return voce != nullptr && voce->forma != eForma::nessuna && voce->forma != eForma::link;
-}
-
 std::int64_t Intero(double nValore)
 {
     return static_cast<std::int64_t>(ArrotondaPari(nValore));
@@ -102,7 +95,7 @@ void AggiungiQuota(RigaTesti& riga, double nParte, double nTutto, bool bConta)
 
 RigaTesti RigaCondizione(const RecordCondizione& record, std::size_t nId, double nSviluppate)
 {
-    const bool bConta = Conta(record.Tipo);
+    const bool bConta = SiMisura(record.Tipo);
     RigaTesti riga{std::to_string(nId), std::string(NomeTipo(record.Tipo))};
     AggiungiQuota(riga, record.ContaOk, nSviluppate, bConta);
     AggiungiQuota(riga, record.ContaKo, nSviluppate, bConta);

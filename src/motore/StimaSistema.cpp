@@ -82,8 +82,7 @@ private:
     /// Does a record's verdict of the column in front play a part?
     [[nodiscard]] bool Tramanda(const RecordCondizione& record) const
     {
-        const VoceCatalogo* voce = TrovaTipo(record.Tipo);
-        return voce != nullptr && voce->forma == eForma::coppia && record.IdRecupero != 0 &&
+        return FormaDiTipo(record.Tipo) == eForma::coppia && record.IdRecupero != 0 &&
                QuadroRecuperi::Contiene(record.IdRecupero) &&
                m_Stato.aQuadroRec[record.IdRecupero].Attiva != 0;
     }
