@@ -25,7 +25,7 @@ mkdir -p "$ESEMPI"
 : >"$RESOCONTO"
 
 in_silenzio 'Preparo la costruzione' cmake -S . -B "$CARTELLA" -G Ninja -DCMAKE_BUILD_TYPE=Release \
-    -DORDAVEL_PROVE=OFF
+    -DORDAVEL_PROVE=OFF -DORDAVEL_QT=OFF
 in_silenzio 'Costruisco il programma (la prima volta ci vuole qualche minuto)' \
     cmake --build "$CARTELLA" --target ordavel_programma
 

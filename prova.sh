@@ -53,7 +53,7 @@ for argomento in "$@"; do
 done
 ((${#passi[@]} > 0)) || passi=("${SOLITI[@]}")
 
-installa_pacchetti "${PACCHETTI_PROGRAMMA[@]}" "${PACCHETTI_PROVE[@]}"
+installa_pacchetti "${PACCHETTI_PROGRAMMA[@]}" "${PACCHETTI_FACCIA[@]}" "${PACCHETTI_PROVE[@]}"
 mkdir -p "$RESOCONTI"
 
 superate=0

@@ -5,11 +5,18 @@
 # shellcheck disable=SC2034
 PACCHETTI_PROGRAMMA=(cmake ninja-build g++ libcli11-dev nlohmann-json3-dev)
 
+# What the face and the desktop program are built with. The two libraries at the end are only recommended by Qt's
+# own packages, and recommendations stay out: without them its Designer part is not found.
+# shellcheck disable=SC2034
+PACCHETTI_FACCIA=(qt6-base-dev libqt6svg6-dev qt6-tools-dev qt6-tools-dev-tools libqt6opengl6-dev libxkbcommon-dev
+    qt6-translations-l10n fonts-dejavu-core fonts-liberation2)
+
 # What the tests, the sanitizers of both compilers and the checks of the code want besides. The run-time
 # libraries of clang's sanitizers and fuzzer are only recommended by clang, and recommendations stay out.
 # shellcheck disable=SC2034
 PACCHETTI_PROVE=(clang libclang-rt-14-dev clang-format clang-tidy ccache git python3
-    libgtest-dev libgmock-dev libbenchmark-dev librapidcheck-dev)
+    libgtest-dev libgmock-dev libbenchmark-dev librapidcheck-dev xvfb xauth xdotool poppler-utils
+    desktop-file-utils appstream)
 
 # installa_pacchetti <package>...: installs those that are missing; does nothing when all are there.
 installa_pacchetti() {

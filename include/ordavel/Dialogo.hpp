@@ -7,8 +7,10 @@
 
 #include "ordavel/Controlli.hpp"
 
+#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace ordavel {
 
@@ -30,6 +32,9 @@ public:
     /// May its window be closed now? A desktop asks before it lets a user close it.
     [[nodiscard]] virtual bool PuoChiudersi() const { return true; }
 
+    /// What its window does when the dialog is no more; its controls are gone by then.
+    void AlTermine(std::function<void()> azione) { m_AlTermine = std::move(azione); }
+
     const std::string sNome;
     const std::string sTitolo;
     Stato<bool> Visibile{false};
@@ -39,6 +44,9 @@ public:
 protected:
     /// What happens when it comes to the front.
     virtual void AllaMostra() {}
+
+private:
+    std::function<void()> m_AlTermine;
 };
 
 } // namespace ordavel

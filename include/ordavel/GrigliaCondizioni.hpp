@@ -9,6 +9,7 @@
 #include "ordavel/esporta.hpp"
 #include "ordavel/records.hpp"
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -42,6 +43,9 @@ public:
     [[nodiscard]] const Condizione& Riga(std::int32_t nRiga) const;
     [[nodiscard]] Condizione& Riga(std::int32_t nRiga);
 
+    /// Grows whenever anybody may have written: who watches the conditions need not compare them until it does.
+    [[nodiscard]] std::uint64_t Revisione() const noexcept { return m_nRevisione; }
+
     /// Is a row without a condition? Rows outside 1..2000 count as empty.
     [[nodiscard]] bool Vuota(std::int32_t nRiga) const noexcept;
 
@@ -67,6 +71,7 @@ private:
     std::vector<Condizione> m_aRighe;
     std::vector<eAltezza> m_aAltezze;
     std::int32_t m_nCorrente = 1;
+    std::uint64_t m_nRevisione = 0;
 };
 
 } // namespace ordavel

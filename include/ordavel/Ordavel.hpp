@@ -26,7 +26,9 @@
 #pragma once
 
 #include "ordavel/ArchivioProprieta.hpp"
+#include "ordavel/CalcoliColonna.hpp"
 #include "ordavel/ContaSistema.hpp"
+#include "ordavel/ContenutoSistema.hpp"
 #include "ordavel/ControlliOrdavel.hpp"
 #include "ordavel/EventiOrdavel.hpp"
 #include "ordavel/GrigliaCondizioni.hpp"
@@ -50,7 +52,7 @@ class LibreriaSviluppo;
 class OspiteDialoghi;
 struct StatoRiduzione;
 
-class ORDAVEL_EXPORT Ordavel {
+class ORDAVEL_EXPORT Ordavel : public CalcoliColonna {
 public:
     /// Lays out an empty system of "Lotto" in class 5, without reduction, for the internal engine.
     /// Takes    piattaforma   outlives the component
@@ -245,6 +247,13 @@ public:
     /// An empty system, in place of the present one, after a question when that was modified.
     void NuovoSistema();
 
+    /// What a user has stated: conditions, numbers and board.
+    [[nodiscard]] ContenutoSistema Contenuto() const;
+    /// Puts a content in place of the present one, as when a step is undone. Its columns no longer belong to the
+    /// system. During a run nothing is done.
+    /// Takes    bModificato   whether the system counts as modified then
+    void PoniContenuto(const ContenutoSistema& contenuto, bool bModificato);
+
     // ---- runs ----
 
     /// Develops the picks into the working column file.
@@ -317,37 +326,6 @@ public:
     /// Ends a reduction by the internal engine at its next look.
     void StopRiduciColonne() noexcept;
 
-    // ---- measures of a column ----
-    //
-    // Takes    nClasse   numbers of the column, 0..20
-    //          col       the column; its first nClasse numbers count
-    // Fails    9: nClasse above 20; and as each says
-
-    [[nodiscard]] static std::int32_t CalcolaBaricentro(std::int16_t nClasse,
-                                                        const Colonna& col); ///< 11: class 0
-    [[nodiscard]] static std::int32_t CalcolaPonte(std::int16_t nClasse, const Colonna& col);
-    [[nodiscard]] static std::int32_t CalcolaAmpiezza(std::int16_t nClasse,
-                                                      const Colonna& col); ///< 6: not ascending
-    [[nodiscard]] static std::int32_t CalcolaDistanzaMinima(std::int16_t nClasse,
-                                                            const Colonna& col); ///< 6 as well
-    [[nodiscard]] static std::int32_t CalcolaDistanzaMassima(std::int16_t nClasse,
-                                                             const Colonna& col); ///< 6 as well
-    [[nodiscard]] static std::int32_t CalcolaConsecutivi(std::int16_t nClasse, const Colonna& col);
-    [[nodiscard]] static std::int32_t CalcolaInterruzioniPD(std::int16_t nClasse, const Colonna& col);
-    [[nodiscard]] static std::int32_t CalcolaVorticeDiretto(std::int16_t nClasse, const Colonna& col);
-    [[nodiscard]] static std::int32_t CalcolaVorticeInverso(std::int16_t nClasse, const Colonna& col);
-    [[nodiscard]] static std::int32_t CalcolaSimmetrieDirette(std::int16_t nClasse, const Colonna& col);
-    [[nodiscard]] static std::int32_t CalcolaSimmetrieInverse(std::int16_t nClasse, const Colonna& col);
-    [[nodiscard]] static std::int32_t CalcolaParalleliDiretti(std::int16_t nClasse, const Colonna& col);
-    [[nodiscard]] static std::int32_t CalcolaParalleliInversi(std::int16_t nClasse, const Colonna& col);
-    /// Matches of a parity pattern of letters "P" and "D"; the first place is compared with an even number and the
-    /// last letter has no say. The second form also gives the longest chain.
-    /// Fails    9: more than 90 letters
-    [[nodiscard]] static std::int32_t CalcolaSequenze(std::int16_t nClasse, const Colonna& col,
-                                                      std::string_view sSeq);
-    [[nodiscard]] static std::int32_t CalcolaPuntiSequenze(std::int16_t nClasse, const Colonna& col,
-                                                           std::string_view sSeq, std::int32_t& nRetConsec);
-
     // ---- the system file ----
 
     /// Writes the system, and its columns when they belong to it.
@@ -366,6 +344,8 @@ public:
     [[nodiscard]] const std::string& FileColonne() const noexcept { return m_FileColonne; }
     [[nodiscard]] bool Modificato() const noexcept { return m_Modificato; }
     [[nodiscard]] bool ColonneValide() const noexcept { return m_ColonneValide; }
+    /// Is a run or a text export on its way?
+    [[nodiscard]] bool InCorso() const noexcept { return m_bInCorso; }
 
     /// The controls, for a view to bind and a test to press.
     [[nodiscard]] ControlliOrdavel& Controlli() noexcept { return m_Controlli; }

@@ -12,6 +12,7 @@ PIANI = {
     "editor": 4, "analisi": 4,
     "controllo": 5,
     "cli": 6, "qt": 6,
+    "desktop": 7,
 }
 
 # The port knows nothing of what it carries.
@@ -31,6 +32,8 @@ CASA = {
     "Dialogo.hpp": "piattaforma",
     "Piattaforma.hpp": "piattaforma",
     "VistaCondizioni.hpp": "piattaforma",
+    "CalcoliColonna.hpp": "controllo",
+    "ContenutoSistema.hpp": "controllo",
     "ControlliOrdavel.hpp": "controllo",
     "EventiOrdavel.hpp": "controllo",
     "Ordavel.hpp": "controllo",

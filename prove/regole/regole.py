@@ -23,9 +23,9 @@ def facce(albero):
     """What only the faces may use stays in the faces."""
     librerie = (  # library, its headers, its CMake targets, the folder that has it
         ("Qt", re.compile(r"^(?:Q[A-Z]|Qt|q[a-z]+\.h$)"),
-         re.compile(r"\bQt[56]?(?:::|\s+(?:REQUIRED|COMPONENTS))"), "src/qt/"),
-        ("CLI11", re.compile(r"^CLI/"), re.compile(r"\bCLI11\b"), "src/cli/"),
-        ("nlohmann/json", re.compile(r"^nlohmann/"), re.compile(r"\bnlohmann_json\b"), "src/cli/"),
+         re.compile(r"\bQt[56]?(?:::|\s+(?:REQUIRED|COMPONENTS))"), ("src/qt/", "src/desktop/")),
+        ("CLI11", re.compile(r"^CLI/"), re.compile(r"\bCLI11\b"), ("src/cli/",)),
+        ("nlohmann/json", re.compile(r"^nlohmann/"), re.compile(r"\bnlohmann_json\b"), ("src/cli/",)),
     )
     for percorso in albero.con(*CODICE, "CMakeLists.txt", sotto=("src/", "include/")):
         for nome, intestazione, bersaglio, casa in librerie:
@@ -33,9 +33,9 @@ def facce(albero):
                 continue
             for numero, _, incluso in inclusioni(albero, percorso):
                 if intestazione.match(incluso):
-                    yield f"{percorso}:{numero}: {nome} serve solo in {casa}"
+                    yield f"{percorso}:{numero}: {nome} serve solo in {' e '.join(casa)}"
             if percorso.endswith("CMakeLists.txt") and bersaglio.search(albero.testo(percorso)):
-                yield f"{percorso}: {nome} serve solo in {casa}"
+                yield f"{percorso}: {nome} serve solo in {' e '.join(casa)}"
 
 
 def prima_riga(albero):

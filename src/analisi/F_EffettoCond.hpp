@@ -10,7 +10,7 @@
 
 namespace ordavel {
 
-class F_EffettoCond : public DialogoConferma {
+class ORDAVEL_EXPORT F_EffettoCond : public DialogoConferma {
 public:
     explicit F_EffettoCond(OspiteDialoghi& ospite);
 

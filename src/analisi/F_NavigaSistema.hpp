@@ -6,7 +6,7 @@
 
 namespace ordavel {
 
-class F_NavigaSistema : public DialogoConferma {
+class ORDAVEL_EXPORT F_NavigaSistema : public DialogoConferma {
 public:
     explicit F_NavigaSistema(OspiteDialoghi& ospite)
         : DialogoConferma(ospite, "F_NavigaSistema", "Naviga sistema")

@@ -17,7 +17,7 @@
 
 namespace ordavel {
 
-class F_Riduzione : public DialogoConferma {
+class ORDAVEL_EXPORT F_Riduzione : public DialogoConferma {
 public:
     explicit F_Riduzione(OspiteDialoghi& ospite);
 

@@ -14,7 +14,7 @@
 
 namespace ordavel {
 
-class F_Spoglio : public DialogoConferma {
+class ORDAVEL_EXPORT F_Spoglio : public DialogoConferma {
 public:
     /// How often each score was reached, 0 to 10 points.
     using Conteggi = Tabella<std::int32_t, 0, kClasseMassima>;

@@ -34,6 +34,7 @@ const Condizione& GrigliaCondizioni::Riga(std::int32_t nRiga) const
 
 Condizione& GrigliaCondizioni::Riga(std::int32_t nRiga)
 {
+    ++m_nRevisione;
     return m_aRighe[Posto(nRiga)];
 }
 
@@ -53,6 +54,7 @@ void GrigliaCondizioni::Svuota()
 
 void GrigliaCondizioni::PareggiaAltezze()
 {
+    ++m_nRevisione;
     m_aAltezze.assign(m_aRighe.size(), eAltezza::comune);
 }
 
@@ -63,6 +65,7 @@ eAltezza GrigliaCondizioni::Altezza(std::int32_t nRiga) const
 
 void GrigliaCondizioni::PoniAltezza(std::int32_t nRiga, eAltezza altezza)
 {
+    ++m_nRevisione;
     m_aAltezze[Posto(nRiga)] = altezza;
 }
 

@@ -6,7 +6,7 @@
 
 namespace ordavel {
 
-class F_Progress : public DialogoConferma {
+class ORDAVEL_EXPORT F_Progress : public DialogoConferma {
 public:
     explicit F_Progress(OspiteDialoghi& ospite) : DialogoConferma(ospite, "F_Progress", "")
     {

@@ -8,7 +8,7 @@
 
 namespace ordavel {
 
-class F_VisualizzaColonne : public DialogoConferma {
+class ORDAVEL_EXPORT F_VisualizzaColonne : public DialogoConferma {
 public:
     /// Rows on show.
     static constexpr std::int32_t kRigheMostrate = 21;

@@ -23,7 +23,7 @@
 
 namespace ordavel {
 
-class DialogoCondizione : public DialogoConferma {
+class ORDAVEL_EXPORT DialogoCondizione : public DialogoConferma {
 public:
     DialogoCondizione(OspiteDialoghi& ospite, TipoCondizione tipo, std::string_view sTitoloDialogo);
 
@@ -67,7 +67,8 @@ private:
 
 /// Loads the dialog of a kind.
 /// Gives    nullptr for a kind that has none
-[[nodiscard]] std::unique_ptr<DialogoCondizione> CreaDialogo(OspiteDialoghi& ospite, TipoCondizione tipo);
+[[nodiscard]] ORDAVEL_EXPORT std::unique_ptr<DialogoCondizione> CreaDialogo(OspiteDialoghi& ospite,
+                                                                            TipoCondizione tipo);
 
 /// The pieces of a parameter string; as many as asked for, empty where it has fewer.
 [[nodiscard]] std::vector<std::string_view> PezziParametri(std::string_view sParam, std::size_t nPezzi);

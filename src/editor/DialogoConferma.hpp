@@ -19,7 +19,7 @@ inline constexpr std::string_view kTagRiempito = "ttt";
 /// The buttons, by their indices; only the dialogs of conditions have the third.
 enum class ePulsanteDialogo : std::uint8_t { conferma = 0, chiudi = 1, statistica = 2 };
 
-class DialogoConferma : public Dialogo {
+class ORDAVEL_EXPORT DialogoConferma : public Dialogo {
 public:
     DialogoConferma(OspiteDialoghi& ospite, std::string_view sNomeDialogo, std::string_view sTitoloDialogo);
 

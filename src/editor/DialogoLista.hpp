@@ -7,7 +7,7 @@
 
 namespace ordavel {
 
-class DialogoLista : public DialogoCondizione {
+class ORDAVEL_EXPORT DialogoLista : public DialogoCondizione {
 public:
     /// Takes    nPrimo   first value offered
     DialogoLista(OspiteDialoghi& ospite, TipoCondizione tipo, std::string_view sTitoloDialogo,

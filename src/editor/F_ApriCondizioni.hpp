@@ -6,7 +6,7 @@
 
 namespace ordavel {
 
-class F_ApriCondizioni : public DialogoConferma {
+class ORDAVEL_EXPORT F_ApriCondizioni : public DialogoConferma {
 public:
     /// Offers the condition files of the folder of systems.
     explicit F_ApriCondizioni(OspiteDialoghi& ospite);

@@ -6,7 +6,7 @@
 
 namespace ordavel {
 
-class F_DelCondizioni : public LimitiRighe {
+class ORDAVEL_EXPORT F_DelCondizioni : public LimitiRighe {
 public:
     explicit F_DelCondizioni(OspiteDialoghi& ospite)
         : LimitiRighe(ospite, "F_DelCondizioni", "Elimina condizioni")

@@ -7,7 +7,7 @@
 
 namespace ordavel {
 
-class F_ImpostaPunti : public LimitiRighe {
+class ORDAVEL_EXPORT F_ImpostaPunti : public LimitiRighe {
 public:
     explicit F_ImpostaPunti(OspiteDialoghi& ospite)
         : LimitiRighe(ospite, "F_ImpostaPunti", "Imposta punti"), Pannello(ospite.classe())

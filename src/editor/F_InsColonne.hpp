@@ -10,7 +10,7 @@
 
 namespace ordavel {
 
-class F_InsColonne : public DialogoConferma {
+class ORDAVEL_EXPORT F_InsColonne : public DialogoConferma {
 public:
     /// Lines that the list holds. The grid has 2000 rows; a text of many more is not a list of conditions, and
     /// reading on would only cost memory.

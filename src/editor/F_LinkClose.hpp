@@ -7,7 +7,7 @@
 namespace ordavel {
 
 /// Whatever is selected is confirmed, nothing too. It has no recovery, no statistic and takes no string.
-class F_LinkClose : public DialogoCondizione {
+class ORDAVEL_EXPORT F_LinkClose : public DialogoCondizione {
 public:
     explicit F_LinkClose(OspiteDialoghi& ospite);
 

@@ -10,7 +10,7 @@
 namespace ordavel {
 
 /// A common dialog. A control that its row does not give it stays empty and unused.
-class F_PuntiSu : public DialogoLista {
+class ORDAVEL_EXPORT F_PuntiSu : public DialogoLista {
 public:
     /// Loads the dialog of a kind: boxes as long as the class, combos filled, limits shown.
     /// Fails    5: the kind has no common dialog

@@ -6,7 +6,7 @@
 
 namespace ordavel {
 
-class F_PuntiSuEmulatore : public DialogoCondizione {
+class ORDAVEL_EXPORT F_PuntiSuEmulatore : public DialogoCondizione {
 public:
     /// Height of a row of the sheet below its heading, in twentieths of a point.
     static constexpr std::int32_t kAltezzaRiga = 600;

@@ -8,7 +8,7 @@
 
 namespace ordavel {
 
-class F_PuntiSuFormule : public DialogoCondizione {
+class ORDAVEL_EXPORT F_PuntiSuFormule : public DialogoCondizione {
 public:
     explicit F_PuntiSuFormule(OspiteDialoghi& ospite);
 

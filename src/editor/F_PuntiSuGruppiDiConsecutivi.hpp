@@ -6,7 +6,7 @@
 
 namespace ordavel {
 
-class F_PuntiSuGruppiDiConsecutivi : public DialogoLista {
+class ORDAVEL_EXPORT F_PuntiSuGruppiDiConsecutivi : public DialogoLista {
 public:
     explicit F_PuntiSuGruppiDiConsecutivi(OspiteDialoghi& ospite);
 

@@ -6,7 +6,7 @@
 
 namespace ordavel {
 
-class F_PuntiSuSequenze : public DialogoLista {
+class ORDAVEL_EXPORT F_PuntiSuSequenze : public DialogoLista {
 public:
     explicit F_PuntiSuSequenze(OspiteDialoghi& ospite);
 

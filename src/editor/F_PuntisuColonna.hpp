@@ -6,7 +6,7 @@
 
 namespace ordavel {
 
-class F_PuntisuColonna : public DialogoLista {
+class ORDAVEL_EXPORT F_PuntisuColonna : public DialogoLista {
 public:
     explicit F_PuntisuColonna(OspiteDialoghi& ospite);
 

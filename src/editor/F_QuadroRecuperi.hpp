@@ -12,7 +12,7 @@ namespace ordavel {
 
 inline constexpr std::string_view kTagQuadro = "ddd";
 
-class F_QuadroRecuperi : public DialogoConferma {
+class ORDAVEL_EXPORT F_QuadroRecuperi : public DialogoConferma {
 public:
     /// One line of the board.
     struct Linea {

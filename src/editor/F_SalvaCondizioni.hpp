@@ -9,7 +9,7 @@ namespace ordavel {
 inline constexpr std::string_view kFiltroCondizioni = "File di condizioni (*.cnd)|*.cnd";
 inline constexpr std::string_view kEstensioneCondizioni = ".cnd";
 
-class F_SalvaCondizioni : public DialogoConferma {
+class ORDAVEL_EXPORT F_SalvaCondizioni : public DialogoConferma {
 public:
     /// Offers the conditions up to the first empty row.
     explicit F_SalvaCondizioni(OspiteDialoghi& ospite);

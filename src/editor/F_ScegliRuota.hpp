@@ -7,7 +7,7 @@
 
 namespace ordavel {
 
-class F_ScegliRuota : public DialogoConferma {
+class ORDAVEL_EXPORT F_ScegliRuota : public DialogoConferma {
 public:
     explicit F_ScegliRuota(OspiteDialoghi& ospite)
         : DialogoConferma(ospite, "F_ScegliRuota", "Scegli ruota per Emulatore")

@@ -6,7 +6,7 @@
 
 namespace ordavel {
 
-class LimitiRighe : public DialogoConferma {
+class ORDAVEL_EXPORT LimitiRighe : public DialogoConferma {
 public:
     using DialogoConferma::DialogoConferma;
 

@@ -9,7 +9,7 @@
 namespace ordavel {
 
 /// The component as a dialog sees it.
-class OspiteDialoghi {
+class ORDAVEL_EXPORT OspiteDialoghi {
 public:
     OspiteDialoghi() = default;
     OspiteDialoghi(const OspiteDialoghi&) = delete;

@@ -9,7 +9,7 @@
 namespace ordavel {
 
 /// The boxes of a panel that writes the same points into many rows.
-class PannelloPunti {
+class ORDAVEL_EXPORT PannelloPunti {
 public:
     /// Makes the boxes and hides those above the class.
     explicit PannelloPunti(std::int16_t nClasse);

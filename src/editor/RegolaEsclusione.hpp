@@ -15,7 +15,7 @@ void LoadComboquadroRec(Combo& combo);
 /// Is a recovery group chosen?
 [[nodiscard]] bool ConGruppo(const Combo& combo);
 
-class RegolaEsclusione {
+class ORDAVEL_EXPORT RegolaEsclusione {
 public:
     /// Listens to the boxes of punti; all three outlive the rule.
     RegolaEsclusione(SerieSpunte& punti, SerieSpunte& recupero, const Combo& gruppo);

@@ -11,7 +11,7 @@ namespace ordavel {
 
 /// Check boxes for the values nPrimo, nPrimo+1 ... Boxes are added and taken away at the end; one that is there may
 /// be hidden.
-class SerieSpunte {
+class ORDAVEL_EXPORT SerieSpunte {
 public:
     explicit SerieSpunte(std::int32_t nPrimo = 0) : m_nPrimo(nPrimo), m_nUltimo(nPrimo - 1) {}
 

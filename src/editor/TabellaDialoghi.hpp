@@ -52,9 +52,9 @@ struct RigaDialogo {
 };
 
 /// All rows, in the order of the toolbar's menu.
-[[nodiscard]] std::span<const RigaDialogo> TabellaDialoghi() noexcept;
+[[nodiscard]] ORDAVEL_EXPORT std::span<const RigaDialogo> TabellaDialoghi() noexcept;
 
 /// The row of a kind; nullptr for a kind whose dialog is special, or that has none.
-[[nodiscard]] const RigaDialogo* TrovaDialogo(TipoCondizione tipo) noexcept;
+[[nodiscard]] ORDAVEL_EXPORT const RigaDialogo* TrovaDialogo(TipoCondizione tipo) noexcept;
 
 } // namespace ordavel

@@ -8,7 +8,12 @@ Dialogo::Dialogo(std::string_view sNomeDialogo, std::string_view sTitoloDialogo)
     : sNome(sNomeDialogo), sTitolo(sTitoloDialogo)
 {}
 
-Dialogo::~Dialogo() = default;
+Dialogo::~Dialogo()
+{
+    if (m_AlTermine) {
+        m_AlTermine();
+    }
+}
 
 void Dialogo::Mostra()
 {
