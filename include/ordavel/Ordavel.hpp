@@ -90,6 +90,9 @@ public:
     void PoniFileBd10Lotto5M(std::string sFile) { m_FileBd10Lotto5M = std::move(sFile); }
     void PoniFileBdSE(std::string sFile) { m_FileBdSE = std::move(sFile); }
     void PoniFileBdWF(std::string sFile) { m_FileBdWF = std::move(sFile); }
+    /// The archive of a game, by its number from 1.
+    /// Fails    9: there is no such game
+    [[nodiscard]] const std::string& FileBd(std::int16_t nGioco) const;
     [[nodiscard]] const std::string& FileBdLotto() const noexcept { return m_FileBdLotto; }
     [[nodiscard]] const std::string& FileBd10Lotto() const noexcept { return m_FileBd10Lotto; }
     [[nodiscard]] const std::string& FileBd10Lotto5M() const noexcept { return m_FileBd10Lotto5M; }
@@ -412,7 +415,6 @@ private:
     // Runs.
     void MostraFineSviluppo(float nInizio);
     [[nodiscard]] std::int16_t ChiediColonneDaEmulare();
-    [[nodiscard]] const std::string& FileBdGioco() const;
     std::string PreparaEmulatore();
     void CaricaEmulatore();
     void PreparaCorsa();

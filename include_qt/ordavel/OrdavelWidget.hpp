@@ -11,10 +11,13 @@
 
 #include "ordavel/esporta_qt.hpp"
 
+#include <QList>
+#include <QStringList>
 #include <QWidget>
 
 #include <memory>
 
+class QAbstractItemModel;
 class QMenuBar;
 class QSettings;
 class QUndoStack;
@@ -40,6 +43,8 @@ class ORDAVEL_QT_EXPORT OrdavelWidget : public QWidget {
                    percorsoTempChanged STORED true DESIGNABLE true)
     Q_PROPERTY(QString dirSistemi READ dirSistemi WRITE setDirSistemi RESET resetDirSistemi NOTIFY
                    dirSistemiChanged STORED true DESIGNABLE true)
+    Q_PROPERTY(double colonneIntegrali READ ColonneIntegrali STORED false DESIGNABLE false)
+    Q_PROPERTY(int quantitaColonne READ QuantitaColonne STORED false DESIGNABLE false)
     Q_PROPERTY(QString fileBdLotto READ fileBdLotto WRITE setFileBdLotto STORED true DESIGNABLE true)
     Q_PROPERTY(QString fileBd10Lotto READ fileBd10Lotto WRITE setFileBd10Lotto STORED true DESIGNABLE true)
     Q_PROPERTY(
@@ -76,7 +81,9 @@ public:
     /// The five settings by their keys, for hosts that keep them themselves. Other keys are left alone.
     /// Gives    whether the store could be read, or written
     bool saveProperties(QSettings& impostazioni) const;
-    bool loadProperties(const QSettings& impostazioni);
+    bool loadProperties(QSettings& impostazioni);
+
+    // The folders are reset in a form editor alone: a component that has begun to use one keeps it.
 
     [[nodiscard]] int classe() const;
     void setClasse(int nClasse); ///< one that is not in the list changes nothing
@@ -106,6 +113,60 @@ public:
     void setFileBdSE(const QString& sFile);
     [[nodiscard]] QString fileBdWF() const;
     void setFileBdWF(const QString& sFile);
+
+    // ---- the members of the component, for who calls by name ----
+    //
+    // What one fails with is shown as the component's failures are, and it gives 0, false or nothing then. The measures
+    // of a column pass their failure on to the caller. A column is its numbers, ascending.
+
+    Q_INVOKABLE QAbstractItemModel* GetGridCond() const; ///< a condition a column, rows as they are shown
+    Q_INVOKABLE QStringList GetLbQuadroRec() const;
+    Q_INVOKABLE void SetColonnaGrid(int nId);
+    Q_INVOKABLE QList<QList<int>> GetColonneSviluppo();
+    Q_INVOKABLE QString GetColonnaSviluppo(int nId);
+    Q_INVOKABLE QString GetColonnaSviluppoFromFile(int nId, const QString& sFile);
+    Q_INVOKABLE QList<int> GetNumeriSel() const; ///< 90 entries, 0 behind the last number
+    Q_INVOKABLE int ContaNumeriSel() const;
+    Q_INVOKABLE void SelezionaNumero(int nNumero, bool bSelezionato);
+    Q_INVOKABLE void InsCondizione(int t, const QString& sParam);
+    Q_INVOKABLE void AggiornaProgressSviluppoDll();
+    Q_INVOKABLE bool GestSviluppo();
+    Q_INVOKABLE bool GestSviluppoDaFileColonne(const QString& sFileColonne);
+    Q_INVOKABLE void SelezionaComboMotSviluppo();
+    Q_INVOKABLE void SetNum(int nNum, bool bValore);
+    Q_INVOKABLE void Deinit();
+    Q_INVOKABLE double ColonneIntegrali() const;
+    Q_INVOKABLE int QuantitaColonne() const;
+    Q_INVOKABLE bool SalvaFileColonne();
+    Q_INVOKABLE bool SalvaFileColonneTesto();
+    Q_INVOKABLE void RiduciColonne(const QString& sFileCol, int nPuntiRichiesti);
+    Q_INVOKABLE void StopRiduciColonne();
+    Q_INVOKABLE int GetIdCmbTipoGioco() const;
+    Q_INVOKABLE QString GetIdCmbTipoGiocoString() const;
+    Q_INVOKABLE bool VerificaCoerenzaLink();
+    Q_INVOKABLE bool IsCondizionePresente(const QString& sNome) const;
+    Q_INVOKABLE int GetQuantitaColDaEmulareFromGrid() const;
+    Q_INVOKABLE void DisegnaNumeriProno();
+    Q_INVOKABLE void SetcoloreCasellaNumeri(int nNumero, int nColor, int nForeColor);
+    Q_INVOKABLE void AnnullaExport();
+
+    Q_INVOKABLE static int CalcolaBaricentro(int nClasse, const QList<int>& col);
+    Q_INVOKABLE static int CalcolaPonte(int nClasse, const QList<int>& col);
+    Q_INVOKABLE static int CalcolaAmpiezza(int nClasse, const QList<int>& col);
+    Q_INVOKABLE static int CalcolaDistanzaMinima(int nClasse, const QList<int>& col);
+    Q_INVOKABLE static int CalcolaDistanzaMassima(int nClasse, const QList<int>& col);
+    Q_INVOKABLE static int CalcolaConsecutivi(int nClasse, const QList<int>& col);
+    Q_INVOKABLE static int CalcolaInterruzioniPD(int nClasse, const QList<int>& col);
+    Q_INVOKABLE static int CalcolaVorticeDiretto(int nClasse, const QList<int>& col);
+    Q_INVOKABLE static int CalcolaVorticeInverso(int nClasse, const QList<int>& col);
+    Q_INVOKABLE static int CalcolaSimmetrieDirette(int nClasse, const QList<int>& col);
+    Q_INVOKABLE static int CalcolaSimmetrieInverse(int nClasse, const QList<int>& col);
+    Q_INVOKABLE static int CalcolaParalleliDiretti(int nClasse, const QList<int>& col);
+    Q_INVOKABLE static int CalcolaParalleliInversi(int nClasse, const QList<int>& col);
+    Q_INVOKABLE static int CalcolaSequenze(int nClasse, const QList<int>& col, const QString& sSeq);
+    /// Gives    points, and the longest chain behind them
+    Q_INVOKABLE static QList<int> CalcolaPuntiSequenze(int nClasse, const QList<int>& col,
+                                                       const QString& sSeq);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;

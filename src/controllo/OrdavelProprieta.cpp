@@ -5,6 +5,7 @@
 #include "analisi/F_NavigaSistema.hpp"
 #include "core/ModNumeri.hpp"
 
+#include <array>
 #include <limits>
 
 namespace ordavel {
@@ -114,6 +115,16 @@ void Ordavel::SetcoloreCasellaNumeri(std::int16_t nNumero, Colore nColor, Colore
     auto aColori = m_Controlli.SelnovoNumeri1.Colori.Valore();
     aColori(nNumero) = {.nSfondo = nColor, .nTesto = nForeColor};
     m_Controlli.SelnovoNumeri1.Colori.Poni(aColori);
+}
+
+const std::string& Ordavel::FileBd(std::int16_t nGioco) const
+{
+    const std::array<const std::string*, 5> aFile{&m_FileBdLotto, &m_FileBd10Lotto, &m_FileBd10Lotto5M,
+                                                  &m_FileBdSE, &m_FileBdWF};
+    if (nGioco < 1 || static_cast<std::size_t>(nGioco) > aFile.size()) {
+        Solleva(eErrore::indice);
+    }
+    return *aFile[static_cast<std::size_t>(nGioco) - 1];
 }
 
 } // namespace ordavel

@@ -14,7 +14,6 @@
 #include "motore/ModSistemiCond.hpp"
 #include "persistenza/ModFileColonne.hpp"
 
-#include <array>
 #include <cmath>
 #include <filesystem>
 #include <system_error>
@@ -219,13 +218,6 @@ std::int16_t Ordavel::ChiediColonneDaEmulare()
 }
 
 /// The archive of the selected game.
-const std::string& Ordavel::FileBdGioco() const
-{
-    const std::array<const std::string*, 5> aFile{&m_FileBdLotto, &m_FileBd10Lotto, &m_FileBd10Lotto5M,
-                                                  &m_FileBdSE, &m_FileBdWF};
-    return *aFile.at(static_cast<std::size_t>(GetIdCmbTipoGioco()));
-}
-
 /// Builds the emulated draws of a system that asks for them. When that cannot be, older ones stay.
 /// Gives    the path of their file; "-" for a system without an emulator
 std::string Ordavel::PreparaEmulatore()
@@ -236,7 +228,7 @@ std::string Ordavel::PreparaEmulatore()
     std::string sFile = m_PercorsoTemp + "Emulatore.dat";
     const std::int16_t nRuota = ChiediColonneDaEmulare();
     if (!CreaDatiEmulatore(sFile, GetQuantitaColDaEmulareFromGrid(), nRuota, GetIdCmbTipoGiocoString(),
-                           FileBdGioco(), m_Piattaforma)) {
+                           FileBd(static_cast<std::int16_t>(GetIdCmbTipoGioco() + 1)), m_Piattaforma)) {
         m_Piattaforma.MostraMessaggio({.icona = eIcona::nessuna,
                                        .sTitolo = {},
                                        .sTesto = "Filtro emulatore non creato",

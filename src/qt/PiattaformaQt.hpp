@@ -32,6 +32,9 @@ public:
     /// The answer of the next DialogoApri, which is then not shown: a file that the user has named already.
     void RispondiApri(std::string sFile) { m_sApri = std::move(sFile); }
 
+    /// The font of the grid, in which widths of texts are measured.
+    [[nodiscard]] const QFont& Carattere() const noexcept { return m_Carattere; }
+
     /// Over which window the next box stands: the modal one in front, else the padre's.
     [[nodiscard]] QWidget* Davanti() const;
 
