@@ -43,6 +43,8 @@ CASA = {
 def _cartella(percorso):
     """The folder of the design that a file belongs to; nothing when the tables do not know it."""
     parti = PurePosixPath(percorso).parts
+    if parti[0] == "include_qt":
+        return "qt"
     if parti[0] == "include":
         return CASA.get("/".join(parti[2:]))
     return parti[1] if len(parti) > 2 and parti[1] in PIANI else None
@@ -51,7 +53,8 @@ def _cartella(percorso):
 def _bersaglio(albero, da, nome, virgolette):
     """The path that an #include means; nothing for a header that is not the project's."""
     if nome.startswith("ordavel/"):
-        return "include/" + nome
+        qt = "include_qt/" + nome
+        return qt if qt in albero.percorsi or nome == "ordavel/esporta_qt.hpp" else "include/" + nome
     candidati = ("src/" + nome, (PurePosixPath(da).parent / nome).as_posix())
     return next((c for c in candidati if c in albero.percorsi), "src/" + nome if virgolette else None)
 
