@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 namespace ordavel {
 namespace {
 
@@ -29,6 +31,19 @@ TEST(SerieSpunte, IlClickDiceIlValore)
     serie.AlClick([&](std::int32_t nValore) { nCliccato = nValore; });
     serie(4).Segnata.Poni(true);
     EXPECT_EQ(nCliccato, 4);
+}
+
+TEST(SerieSpunte, LaVistaSaDelleSpunteCheVengonoEVanno)
+{
+    SerieSpunte serie;
+    std::vector<std::int32_t> aUltimi;
+    serie.Ascolta([&] { aUltimi.push_back(serie.Ultimo()); });
+    serie.Estendi(5);
+    serie.Taglia(2);
+    serie(1).Segnata.Poni(true);
+    serie.Ascolta({});
+    serie.Estendi(4);
+    EXPECT_EQ(aUltimi, (std::vector<std::int32_t>{5, 1}));
 }
 
 TEST(SerieSpunte, TagliataDimenticaLeSpunteEAllungataLeRifaVuote)

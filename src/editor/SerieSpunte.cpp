@@ -16,6 +16,7 @@ void SerieSpunte::Estendi(std::int32_t nUltimo)
             }
         });
     }
+    AvvisaVista();
 }
 
 void SerieSpunte::Taglia(std::int32_t nDa)
@@ -24,6 +25,7 @@ void SerieSpunte::Taglia(std::int32_t nDa)
         m_aSpunte.pop_back();
         --m_nUltimo;
     }
+    AvvisaVista();
 }
 
 Spunta& SerieSpunte::operator()(std::int64_t nValore)
@@ -45,6 +47,18 @@ const Spunta& SerieSpunte::operator()(std::int64_t nValore) const
 void SerieSpunte::AlClick(std::function<void(std::int32_t)> regola)
 {
     m_Regola = std::move(regola);
+}
+
+void SerieSpunte::Ascolta(std::function<void()> vista)
+{
+    m_Vista = std::move(vista);
+}
+
+void SerieSpunte::AvvisaVista() const
+{
+    if (m_Vista) {
+        m_Vista();
+    }
 }
 
 bool SerieSpunte::Qualcuna() const noexcept

@@ -32,6 +32,9 @@ public:
     /// What happens when a box changes; it is told the value.
     void AlClick(std::function<void(std::int32_t)> regola);
 
+    /// What the one view does whenever boxes have come or gone; an empty function takes it away.
+    void Ascolta(std::function<void()> vista);
+
     /// Is any box ticked?
     [[nodiscard]] bool Qualcuna() const noexcept;
 
@@ -41,10 +44,13 @@ public:
     [[nodiscard]] FlagNumeri Flag() const { return Flag(m_nUltimo); }
 
 private:
+    void AvvisaVista() const;
+
     std::int32_t m_nPrimo;
     std::int32_t m_nUltimo;
     std::deque<Spunta> m_aSpunte; ///< a deque, so that boxes stay where a view has bound them
     std::function<void(std::int32_t)> m_Regola;
+    std::function<void()> m_Vista;
 };
 
 } // namespace ordavel

@@ -4,6 +4,7 @@
 
 #include "qt/PiattaformaQt.hpp"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QPushButton>
@@ -13,6 +14,7 @@ namespace ordavel::qt {
 VistaDialogo::VistaDialogo(Dialogo& dialogo, PiattaformaQt& piattaforma, QWidget* padre)
     : QDialog(padre), m_Dialogo(&dialogo), m_Piattaforma(piattaforma), m_Legami(piattaforma, dialogo.sNome)
 {
+    TagliaAltre();
     setObjectName(Testo(dialogo.sNome));
     setWindowTitle(dialogo.sTitolo.empty() ? QStringLiteral("Ordavel") : Testo(dialogo.sTitolo));
     setAccessibleName(windowTitle());
@@ -32,6 +34,17 @@ VistaDialogo::VistaDialogo(Dialogo& dialogo, PiattaformaQt& piattaforma, QWidget
 }
 
 VistaDialogo::~VistaDialogo() = default;
+
+/// A dialog tells one window of its changes and of its end: an older one would never hear of them.
+void VistaDialogo::TagliaAltre()
+{
+    for (QWidget* finestra : QApplication::topLevelWidgets()) {
+        auto* altra = qobject_cast<VistaDialogo*>(finestra);
+        if (altra != nullptr && altra != this && altra->m_Dialogo == m_Dialogo) {
+            altra->DialogoFinito();
+        }
+    }
+}
 
 void VistaDialogo::SegueVisibile(bool bVisibile)
 {

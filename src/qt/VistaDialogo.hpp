@@ -22,7 +22,8 @@ class VistaDialogo : public QDialog {
     Q_OBJECT
 
 public:
-    /// Takes    dialogo       may end before its window, which is then cut off and goes
+    /// Takes    dialogo       may end before its window, which is then cut off and goes; so is an older window of
+    ///                        it, now
     ///          piattaforma   outlives it
     VistaDialogo(Dialogo& dialogo, PiattaformaQt& piattaforma, QWidget* padre);
     ~VistaDialogo() override;
@@ -49,6 +50,7 @@ protected:
     QPushButton* NuovoPulsante(const QString& sNome, const QString& sTesto);
 
 private:
+    void TagliaAltre();
     void SegueVisibile(bool bVisibile);
     void DialogoFinito();
 
