@@ -3,8 +3,8 @@
 // The first byte is the game; the others are the text.
 
 #include "Pretende.hpp"
-#include "cli/TestoErrato.hpp"
-#include "cli/TestoEstrazioni.hpp"
+#include "core/TestoErrato.hpp"
+#include "persistenza/TestoEstrazioni.hpp"
 
 #include <algorithm>
 #include <cstddef>
@@ -26,11 +26,11 @@ std::optional<std::vector<Estrazione>> Leggi(const ProfiloGioco& gioco, const st
     std::istringstream ingresso(sTesto);
     std::vector<Estrazione> aEstrazioni;
     try {
-        const auto nQuante = cli::LeggiTestoEstrazioni(ingresso, "testo", gioco, [&](const auto& aBlocco) {
+        const auto nQuante = LeggiTestoEstrazioni(ingresso, "testo", gioco, [&](const auto& aBlocco) {
             aEstrazioni.insert(aEstrazioni.end(), aBlocco.begin(), aBlocco.end());
         });
         Pretende(nQuante == std::ssize(aEstrazioni), "sono quante si dice");
-    } catch (const cli::TestoErrato& errore) {
+    } catch (const TestoErrato& errore) {
         Pretende(std::string_view(errore.what()).starts_with("riga "), "si dice quale riga");
         return std::nullopt;
     }
@@ -43,14 +43,14 @@ void Prova(const ProfiloGioco& gioco, const std::string& sTesto)
     if (!aEstrazioni) {
         return;
     }
-    std::string sScritto = cli::IntestazioneEstrazioni(gioco);
+    std::string sScritto = IntestazioneEstrazioni(gioco);
     for (const Estrazione& estrazione : *aEstrazioni) {
         const auto fine = estrazione.begin() + gioco.nNumeriEstrazione;
         Pretende(std::all_of(estrazione.begin(), fine, [](std::uint8_t n) { return n <= kNumeroMassimo; }),
                  "numeri da 0 a 90");
         Pretende(std::all_of(fine, estrazione.end(), [](std::uint8_t n) { return n == 0; }),
                  "nulla oltre i numeri");
-        sScritto += cli::LineaEstrazione(gioco, estrazione);
+        sScritto += LineaEstrazione(gioco, estrazione);
     }
     Pretende(Leggi(gioco, sScritto) == aEstrazioni, "si rilegge uguale");
 }

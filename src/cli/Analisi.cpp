@@ -5,9 +5,9 @@
 #include "analisi/F_Spoglio.hpp"
 #include "cli/Rispondi.hpp"
 #include "cli/StampaElenco.hpp"
-#include "cli/TestoErrato.hpp"
 #include "cli/UsaArchivio.hpp"
 #include "core/ModNumeri.hpp"
+#include "core/TestoErrato.hpp"
 
 #include <algorithm>
 #include <iostream>

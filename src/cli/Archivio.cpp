@@ -3,13 +3,14 @@
 #include "cli/Archivio.hpp"
 
 #include "cli/Sessione.hpp"
-#include "cli/TestoEstrazioni.hpp"
 #include "core/FileBinario.hpp"
 #include "core/ModNumeri.hpp"
+#include "persistenza/FileAlPosto.hpp"
+#include "persistenza/ImportaArchivio.hpp"
 #include "persistenza/ModBaseDati.hpp"
+#include "persistenza/TestoEstrazioni.hpp"
 
 #include <algorithm>
-#include <fstream>
 #include <iostream>
 #include <span>
 
@@ -17,24 +18,12 @@ namespace ordavel::cli {
 
 namespace {
 
-bool Importa(Sessione& sessione, const OpzioniArchivio& opzioni, const ProfiloGioco& gioco)
+bool Importa(Sessione& /*sessione*/, const OpzioniArchivio& opzioni, const ProfiloGioco& gioco)
 {
-    ControllaUscita(opzioni.sArchivio, opzioni.sTesto);
-    FileBinario(opzioni.sTesto, eApertura::lettura).Chiudi();
-    std::ifstream ingresso(opzioni.sTesto, std::ios::binary);
-    std::int64_t nEstrazioni = 0;
-    const bool bFatto =
-        ScriviAlPosto(sessione.Desktop(), opzioni.sArchivio, [&](const std::string& sProvvisorio) {
-            FileBinario archivio(sProvvisorio, eApertura::scrittura);
-            nEstrazioni = LeggiTestoEstrazioni(ingresso, opzioni.sTesto, gioco, [&](const auto& aEstrazioni) {
-                AccodaEstrazioni(TracciatoDi(gioco), aEstrazioni, archivio);
-            });
-            archivio.Chiudi();
-            return true;
-        });
+    const std::int64_t nEstrazioni = CreaArchivio(opzioni.sTesto, gioco, opzioni.sArchivio);
     std::cout << opzioni.sArchivio << ": " << FormattaNumero(static_cast<double>(nEstrazioni))
               << " estrazioni di " << gioco.sNome << '\n';
-    return bFatto;
+    return true;
 }
 
 std::int32_t Quante(const TracciatoEstrazione& tracciato, const std::string& sArchivio)

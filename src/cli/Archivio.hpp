@@ -1,6 +1,6 @@
 // Archivio.hpp - draw archives made from a text, and made a text again.
 //
-// What the text looks like is told in TestoEstrazioni.hpp.
+// What the text looks like is told in persistenza/TestoEstrazioni.hpp.
 
 #pragma once
 

@@ -3,8 +3,9 @@
 #include "cli/Colonne.hpp"
 
 #include "cli/Sessione.hpp"
-#include "cli/TestoErrato.hpp"
 #include "core/ModNumeri.hpp"
+#include "core/TestoErrato.hpp"
+#include "persistenza/FileAlPosto.hpp"
 
 #include <algorithm>
 #include <iostream>

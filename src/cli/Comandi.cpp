@@ -14,6 +14,7 @@
 #include "core/FileBinario.hpp"
 #include "core/ModFunzGeneriche.hpp"
 #include "core/ModNumeri.hpp"
+#include "persistenza/FileAlPosto.hpp"
 #include "persistenza/ModFileColonne.hpp"
 
 #include <algorithm>

@@ -2,9 +2,9 @@
 
 #include "cli/ControlloParametri.hpp"
 
-#include "cli/TestoErrato.hpp"
 #include "core/ModNumeri.hpp"
 #include "core/ModTesti.hpp"
+#include "core/TestoErrato.hpp"
 #include "editor/TabellaDialoghi.hpp"
 
 #include <algorithm>

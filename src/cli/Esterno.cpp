@@ -2,9 +2,9 @@
 
 #include "cli/Esterno.hpp"
 
-#include "cli/TestoErrato.hpp"
 #include "core/FileBinario.hpp"
 #include "core/ModFunzGeneriche.hpp"
+#include "core/TestoErrato.hpp"
 #include "motore/LibreriaSviluppo.hpp"
 
 #include <algorithm>

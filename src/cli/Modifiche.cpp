@@ -4,16 +4,17 @@
 
 #include "cli/ControlloParametri.hpp"
 #include "cli/Rispondi.hpp"
-#include "cli/TestoErrato.hpp"
 #include "condizioni/ModCatalogo.hpp"
 #include "condizioni/ModColonneTesto.hpp"
 #include "condizioni/ModRighe.hpp"
 #include "core/FileBinario.hpp"
 #include "core/ModTesti.hpp"
+#include "core/TestoErrato.hpp"
 #include "editor/F_ApriCondizioni.hpp"
 #include "editor/F_InsColonne.hpp"
 #include "editor/F_QuadroRecuperi.hpp"
 #include "editor/F_SalvaCondizioni.hpp"
+#include "persistenza/FileAlPosto.hpp"
 
 #include <algorithm>
 #include <iostream>

@@ -11,7 +11,7 @@
 
 #include "ordavel/Ordavel.hpp"
 
-#include "cli/TestoErrato.hpp"
+#include "core/TestoErrato.hpp"
 
 #include <nlohmann/json.hpp>
 

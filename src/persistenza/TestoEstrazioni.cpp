@@ -1,17 +1,17 @@
 // TestoEstrazioni.cpp - draws as a text.
 
-#include "cli/TestoEstrazioni.hpp"
+#include "persistenza/TestoEstrazioni.hpp"
 
-#include "cli/TestoErrato.hpp"
 #include "core/ModNumeri.hpp"
 #include "core/ModTesti.hpp"
+#include "core/TestoErrato.hpp"
 
 #include <algorithm>
 #include <set>
 #include <string_view>
 #include <utility>
 
-namespace ordavel::cli {
+namespace ordavel {
 
 namespace {
 
@@ -191,4 +191,4 @@ std::string LineaEstrazione(const ProfiloGioco& gioco, const Estrazione& estrazi
     return sLinea + "\n";
 }
 
-} // namespace ordavel::cli
+} // namespace ordavel

@@ -15,7 +15,7 @@
 #include <string>
 #include <vector>
 
-namespace ordavel::cli {
+namespace ordavel {
 
 /// Draws that are held at once, out of however many.
 inline constexpr std::int32_t kEstrazioniBlocco = 10000;
@@ -37,4 +37,4 @@ using RiceviEstrazioni = std::function<void(const std::vector<Estrazione>&)>;
 /// The line of a draw, without a date, with its line end.
 [[nodiscard]] std::string LineaEstrazione(const ProfiloGioco& gioco, const Estrazione& estrazione);
 
-} // namespace ordavel::cli
+} // namespace ordavel

@@ -1,9 +1,9 @@
 // TestoEstrazioni_prova.cpp - draws as a text.
 
-#include "cli/TestoEstrazioni.hpp"
+#include "persistenza/TestoEstrazioni.hpp"
 
-#include "cli/TestoErrato.hpp"
 #include "comune/Fallimenti.hpp"
+#include "core/TestoErrato.hpp"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@
 #include <sstream>
 #include <streambuf>
 
-namespace ordavel::cli {
+namespace ordavel {
 namespace {
 
 constexpr const char* kTestata = "Data;N1;N2;N3;N4;N5;N6\n";
@@ -142,4 +142,4 @@ TEST(TestoEstrazioni, QuelloCheSiScriveNonHaData)
 }
 
 } // namespace
-} // namespace ordavel::cli
+} // namespace ordavel

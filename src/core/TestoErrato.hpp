@@ -4,11 +4,11 @@
 
 #include <stdexcept>
 
-namespace ordavel::cli {
+namespace ordavel {
 
 class TestoErrato : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
 
-} // namespace ordavel::cli
+} // namespace ordavel
