@@ -81,6 +81,7 @@ TEST_F(FinestraStatistica, MostraSubitoLaMisuraNaturale)
     EXPECT_EQ(finestra.LabUsate.Testo.Valore(), "2 estrazioni (1 incomplete)");
     EXPECT_EQ(finestra.LabMedia.Testo.Valore(), "3,00");
     EXPECT_EQ(finestra.LabLimiti.Testo.Valore(), "1 - 5");
+    EXPECT_DOUBLE_EQ(finestra.PostoMedia(), 2.5);
     const EsitoStatistica& esito = finestra.Esito.Valore();
     EXPECT_THAT(esito.aBarre, SizeIs(5));
     EXPECT_EQ(finestra.BarraDi(esito.aUltime.at(0)), 0);

@@ -181,4 +181,15 @@ std::int32_t F_Statistica::BarraDi(const UltimaEstrazione& ultima) const noexcep
     return barra == aBarre.end() ? -1 : static_cast<std::int32_t>(barra - aBarre.begin());
 }
 
+double F_Statistica::PostoMedia() const noexcept
+{
+    const EsitoStatistica& esito = Esito.Valore();
+    if (esito.aBarre.empty()) {
+        return 0;
+    }
+    // A value stands in the middle of its place: the mean of a bar's values is the bar's middle.
+    const BarraStatistica& prima = esito.aBarre.front();
+    return (esito.nMedia - prima.nDa + 0.5) / (prima.nA - prima.nDa + 1);
+}
+
 } // namespace ordavel

@@ -41,6 +41,9 @@ public:
     /// The bar, from 0, that one of the latest draws fell into; -1 when there is none.
     [[nodiscard]] std::int32_t BarraDi(const UltimaEstrazione& ultima) const noexcept;
 
+    /// Where the mean stands among the bars: 0 at the left edge of the first, 1 at the left edge of the second.
+    [[nodiscard]] double PostoMedia() const noexcept;
+
     Etichetta LabGioco;
     Combo CmbRuota;    ///< visible for a game with wheels
     Combo CmbVariante; ///< visible for a kind with a parameter
