@@ -2,8 +2,8 @@
 
 #include "qt/ModelloGriglia.hpp"
 
+#include "qt/Colori.hpp"
 #include "qt/GrigliaProva.hpp"
-#include "qt/Tinte.hpp"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>

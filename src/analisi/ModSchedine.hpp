@@ -49,7 +49,7 @@ inline constexpr double kBordoMm = 2;           ///< from a slip's edge to its p
 inline constexpr double kDistanzaMm = 4;        ///< between slips
 
 /// A page of slips for a sheet and a game.
-class PaginaSchedine {
+class ORDAVEL_EXPORT PaginaSchedine {
 public:
     /// The panels are at most the game's, fewer when the sheet is narrower; a sheet smaller than a slip of one panel
     /// has it anyhow, and it is cut.

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "ordavel/esporta.hpp"
+
 #include <cstdint>
 #include <fstream>
 #include <span>
@@ -19,7 +21,7 @@ enum class eApertura : std::uint8_t {
 ///
 /// All failures name the path: 53 not found, 57 read or write failed, 61 disk full, 70 no permission,
 /// 75 not a regular file, 76 its folder does not exist.
-class FileBinario {
+class ORDAVEL_EXPORT FileBinario {
 public:
     /// Opens sPath (UTF-8).
     /// Fails    53, 70, 75, 76. Folders, devices and pipes are refused with 75.

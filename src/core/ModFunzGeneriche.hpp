@@ -13,7 +13,7 @@
 namespace ordavel {
 
 /// The failure that stands for an error number of the system (errno), about a path.
-[[nodiscard]] Errore ErroreDiSistema(int nErrno, const std::string& sPath);
+[[nodiscard]] ORDAVEL_EXPORT Errore ErroreDiSistema(int nErrno, const std::string& sPath);
 
 /// Does a file or folder of that path exist?
 [[nodiscard]] bool FileEsiste(const std::string& sPath);

@@ -58,10 +58,10 @@ template <typename T> void Aumenta(T& nContatore, std::type_identity_t<T> nQuant
 
 /// A count for display: "." between thousands, "1.234.567"; "0" for zero. A fraction is rounded to nearest with
 /// ties to even, and a value that is not 0 but rounds to it gives an empty text.
-[[nodiscard]] std::string FormattaNumero(double nValore);
+[[nodiscard]] ORDAVEL_EXPORT std::string FormattaNumero(double nValore);
 
 /// A number with at least two digits: 7 gives "07".
-[[nodiscard]] std::string Formatta00(std::int64_t nValore);
+[[nodiscard]] ORDAVEL_EXPORT std::string Formatta00(std::int64_t nValore);
 
 /// How far a job has come: floor(100 * nFatte / nTotale), at most 100.
 /// Fails    11: nTotale is 0

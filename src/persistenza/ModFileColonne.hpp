@@ -43,7 +43,7 @@ void AccodaColonnaFormattata(std::span<const std::uint8_t> aNumeri, bool bTutti,
 
 /// Column nId of an open column file, from 1. What the file does not hold reads as 0.
 /// Fails    57: also when nId is below 1
-[[nodiscard]] Colonna LeggiColonna(FileBinario& file, std::int64_t nId);
+[[nodiscard]] ORDAVEL_EXPORT Colonna LeggiColonna(FileBinario& file, std::int64_t nId);
 
 /// The first nColonne columns of a file; what it does not hold reads as 0.
 /// Takes    nColonne   0 or more; the caller sets the limit, kColonneInMemoria or its own

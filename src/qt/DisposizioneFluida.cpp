@@ -71,26 +71,49 @@ QSize DisposizioneFluida::minimumSize() const
 
 int DisposizioneFluida::Disponi(const QRect& dove, bool bPosa) const
 {
-    int nX = dove.x();
     int nY = dove.y();
-    int nAlta = 0;
-    for (QLayoutItem* voce : m_aVoci) {
+    qsizetype nPrima = 0;
+    while (nPrima < m_aVoci.size()) {
+        const Riga riga = RigaDa(nPrima, dove.width());
+        if (bPosa) {
+            Posa(nPrima, riga, {dove.x(), nY}, dove.width());
+        }
+        nPrima = riga.nDopo;
+        nY += riga.nAlta + (nPrima < m_aVoci.size() ? spacing() : 0);
+    }
+    return nY - dove.y();
+}
+
+DisposizioneFluida::Riga DisposizioneFluida::RigaDa(qsizetype nPrima, int nLargo) const
+{
+    Riga riga{nPrima, 0};
+    int nX = 0;
+    for (; riga.nDopo < m_aVoci.size(); ++riga.nDopo) {
+        const QLayoutItem* voce = m_aVoci.at(riga.nDopo);
         if (voce->isEmpty()) {
             continue;
         }
         const QSize grandezza = voce->sizeHint();
-        if (nX > dove.x() && nX + grandezza.width() > dove.right() + 1) {
-            nX = dove.x();
-            nY += nAlta + spacing();
-            nAlta = 0;
-        }
-        if (bPosa) {
-            voce->setGeometry({QPoint(nX, nY), grandezza.boundedTo({dove.width(), grandezza.height()})});
+        if (nX > 0 && nX + grandezza.width() > nLargo) {
+            break;
         }
         nX += grandezza.width() + spacing();
-        nAlta = std::max(nAlta, grandezza.height());
+        riga.nAlta = std::max(riga.nAlta, grandezza.height());
     }
-    return nY + nAlta - dove.y();
+    return riga;
+}
+
+void DisposizioneFluida::Posa(qsizetype nPrima, const Riga& riga, QPoint angolo, int nLargo) const
+{
+    for (qsizetype i = nPrima; i < riga.nDopo; ++i) {
+        QLayoutItem* voce = m_aVoci.at(i);
+        if (voce->isEmpty()) {
+            continue;
+        }
+        const QSize grandezza = voce->sizeHint().boundedTo({nLargo, riga.nAlta});
+        voce->setGeometry({angolo + QPoint(0, (riga.nAlta - grandezza.height()) / 2), grandezza});
+        angolo.rx() += grandezza.width() + spacing();
+    }
 }
 
 } // namespace ordavel::qt

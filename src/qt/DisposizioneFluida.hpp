@@ -28,8 +28,18 @@ public:
     [[nodiscard]] QSize minimumSize() const override;
 
 private:
+    /// A line: behind its last item, and how high it is.
+    struct Riga {
+        qsizetype nDopo = 0;
+        int nAlta = 0;
+    };
+
     /// Gives    the height that is needed; places the items when bPosa
     int Disponi(const QRect& dove, bool bPosa) const;
+    /// The line that begins with an item.
+    [[nodiscard]] Riga RigaDa(qsizetype nPrima, int nLargo) const;
+    /// Places the items of a line, each in the middle of its height.
+    void Posa(qsizetype nPrima, const Riga& riga, QPoint angolo, int nLargo) const;
 
     QList<QLayoutItem*> m_aVoci;
 };

@@ -2,9 +2,9 @@
 
 #include "qt/ModelloGriglia.hpp"
 
+#include "qt/Colori.hpp"
 #include "qt/Legami.hpp"
 #include "qt/TestoConto.hpp"
-#include "qt/Tinte.hpp"
 
 #include <QApplication>
 
@@ -90,7 +90,7 @@ void ModelloGriglia::confronta()
 void ModelloGriglia::evidenzia()
 {
     const int nEvidenziata = m_Componente.Controlli().GrdCond.Evidenziata.Valore();
-    const QColor evidenza = Tinta(m_Componente.Controlli().LabColoreColSel.Valore());
+    const QColor evidenza = ColoreQt(m_Componente.Controlli().LabColoreColSel.Valore());
     if (nEvidenziata == m_nEvidenziata && evidenza == m_Evidenza) {
         return;
     }
@@ -228,10 +228,10 @@ QString ModelloGriglia::testoTaglio(int nColonna) const
 QVariant ModelloGriglia::colore(int nRiga, int nColonna, bool bSfondo) const
 {
     if (nColonna > 0 && nRiga == rigaCondizione) {
-        return Tinta(bSfondo ? kSfondoCondizione : kTestoCondizione);
+        return ColoreQt(bSfondo ? kSfondoCondizione : kTestoCondizione);
     }
     if (nColonna > 0 && nColonna == m_nEvidenziata && nRiga >= kRigheFisse) {
-        return bSfondo ? m_Evidenza : TestoLeggibile(m_Evidenza);
+        return bSfondo ? m_Evidenza : TestoSu(m_Evidenza);
     }
     return {};
 }

@@ -127,6 +127,7 @@ void PannelloConti::ScegliColore(Stato<Colore>& colore)
         QColorDialog::getColor(ColoreQt(colore.Valore()), this, "Colore della condizione scelta");
     if (scelto.isValid()) {
         colore.Poni(ColoreOrdavel(scelto));
+        Q_EMIT coloreCambiato();
     }
 }
 

@@ -27,6 +27,10 @@ class PannelloConti : public QWidget {
 public:
     PannelloConti(ControlliOrdavel& controlli, Legami& legami, QWidget* padre = nullptr);
 
+Q_SIGNALS:
+    /// The highlight has another colour.
+    void coloreCambiato();
+
 private:
     void ScegliColore(Stato<Colore>& colore);
 };
