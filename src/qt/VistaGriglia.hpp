@@ -43,7 +43,8 @@ public:
 
 Q_SIGNALS:
     /// The selected condition is to be edited (double click, F2, Enter), deleted (Del); an empty one is to be put in front
-    /// of it (Ins). A menu for it is asked for by customContextMenuRequested, in coordinates of the viewport.
+    /// of it (Ins). A menu for it is asked for by customContextMenuRequested, in coordinates of the viewport, without
+    /// any policy being set.
     void modificaChiesta();
     void eliminaChiesta();
     void inserisciChiesta();
