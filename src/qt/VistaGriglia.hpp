@@ -26,6 +26,9 @@ public:
     /// Takes    componente    outlives it
     ///          segnalatore   where failures are shown; outlives it
     VistaGriglia(Ordavel& componente, Segnalatore& segnalatore, QWidget* padre = nullptr);
+    VistaGriglia(const VistaGriglia&) = delete;
+    VistaGriglia& operator=(const VistaGriglia&) = delete;
+    ~VistaGriglia() override;
 
     /// Shows what was written into the grid since; costs nothing when nothing was.
     void aggiorna();
@@ -61,7 +64,6 @@ protected:
     void resizeEvent(QResizeEvent* evento) override;
     void showEvent(QShowEvent* evento) override;
     void wheelEvent(QWheelEvent* evento) override;
-    void changeEvent(QEvent* evento) override;
     void updateGeometries() override;
 
 private:
@@ -88,9 +90,8 @@ private:
     ModelloGriglia m_Modello;
     TestataGriglia* m_Testata;
     AngoloGriglia* m_Angolo;
-    int m_nRigheParametri = 0; ///< lines that the longest "Parametri" takes
-    bool m_bSegue = false;     ///< the logic has moved something, not the user
-    bool m_bTasti = false;     ///< a key is being obeyed
+    bool m_bSegue = false; ///< the logic has moved something, not the user
+    bool m_bTasti = false; ///< a key is being obeyed
 };
 
 } // namespace ordavel::qt
