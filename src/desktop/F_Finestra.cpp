@@ -31,6 +31,8 @@ namespace {
 
 constexpr const char* kGeometria = "Finestra/Geometria";
 constexpr const char* kStato = "Finestra/Stato";
+/// Of the screen, that a first window may take.
+constexpr double kParteSchermo = 0.9;
 
 /// Can the file be loaded? A name that only failed to is none to come back to.
 bool EUnSistema(const QString& sFile)
@@ -98,7 +100,9 @@ void F_Finestra::Riprendi()
         componente.LeggiProprieta(m_Archivio);
     }
     UsaImpostazioni(LeggiImpostazioni(m_Archivio));
-    restoreGeometry(m_Archivio.Valore(kGeometria).toByteArray());
+    if (!restoreGeometry(m_Archivio.Valore(kGeometria).toByteArray())) {
+        resize(sizeHint().boundedTo(screen()->availableSize() * kParteSchermo));
+    }
     restoreState(m_Archivio.Valore(kStato).toByteArray());
     RiportaSulloSchermo(*this);
 }

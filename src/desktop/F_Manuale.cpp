@@ -3,6 +3,7 @@
 #include "desktop/F_Manuale.hpp"
 
 #include <QTextBrowser>
+#include <QTextDocument>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -25,6 +26,7 @@ F_Manuale::F_Manuale(QWidget* padre) : QDialog(padre)
     testo->setObjectName("Testo");
     testo->setAccessibleName(windowTitle());
     testo->setSource(QUrl(QStringLiteral("qrc:/desktop/manuale.html")));
+    testo->document()->setDocumentMargin(fontMetrics().lineSpacing());
     auto* sotto = new QVBoxLayout(this);
     sotto->setContentsMargins(0, 0, 0, 0);
     sotto->addWidget(testo);

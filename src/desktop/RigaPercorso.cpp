@@ -12,7 +12,7 @@ namespace ordavel::desktop {
 namespace {
 
 /// Letters of a path that are seen without scrolling.
-constexpr int kLettere = 36;
+constexpr int kLettere = 48;
 
 } // namespace
 
