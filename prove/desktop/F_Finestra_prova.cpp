@@ -197,6 +197,44 @@ TEST_F(FinestraProva, ChiRinunciaAlNomeResta)
     EXPECT_FALSE(bChiusa);
 }
 
+TEST_F(FinestraProva, DuranteUnoSviluppoSiChiedeDiInterrompere)
+{
+    for (std::int16_t n = 1; n <= 45; ++n) {
+        Componente().SelezionaNumero(n, true);
+    }
+    Finestra().Componente().setClasse(7);
+    QAction& impostazioni = *Finestra().findChild<QAction*>("Impostazioni");
+    QStringList aTesti;
+    bool bTentata = false;
+    // Two of them: the one that closes waits for the box that the other answers.
+    QTimer risposte;
+    risposte.callOnTimeout([&] {
+        if (auto* mostrata = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            aTesti.append(mostrata->text().section(u'\n', 0, 0).trimmed());
+            mostrata->buttons().constFirst()->click();
+        }
+    });
+    QTimer chiusura;
+    chiusura.callOnTimeout([&] {
+        if (Componente().Controlli().Toolbar2.Pulsante("Stop").Abilitato.Valore() && !bTentata) {
+            bTentata = true;
+            EXPECT_FALSE(impostazioni.isEnabled());
+            EXPECT_FALSE(Finestra().close());
+        }
+    });
+    risposte.start(1);
+    chiusura.start(1);
+    Finestra().show();
+    Finestra().Componente().findChild<QAction*>("SviluppaCond")->trigger();
+    risposte.stop();
+    chiusura.stop();
+    EXPECT_TRUE(bTentata);
+    EXPECT_EQ(aTesti, (QStringList{"Interrompere ?", "Fine sviluppo"}));
+    EXPECT_FALSE(Componente().ColonneValide());
+    EXPECT_TRUE(Finestra().isVisible());
+    EXPECT_TRUE(impostazioni.isEnabled());
+}
+
 TEST_F(FinestraProva, UnSistemaTrascinatoSiApre)
 {
     const QString sFile = NuovoSistema("uno.sic");

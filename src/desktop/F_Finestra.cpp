@@ -259,12 +259,13 @@ bool F_Finestra::Salva()
     return componente.Salva(sFile, true) && !componente.Modificato();
 }
 
-/// An export has no stop command of its own that asks.
+/// An export has no stop command of its own that asks; a run that is only being prepared would not hear it.
 void F_Finestra::ChiediInterruzione()
 {
     Ordavel& componente = m_Ordavel->componente();
     if (!componente.Controlli().PanPerc.Visibile.Valore()) {
-        return componente.Stop();
+        const bool bFerma = componente.Controlli().Toolbar2.Pulsante("Stop").Abilitato.Valore();
+        return bFerma ? componente.Stop() : m_Piattaforma.Beep();
     }
     if (m_Piattaforma.MostraMessaggio({.icona = eIcona::domanda,
                                        .sTitolo = {},
