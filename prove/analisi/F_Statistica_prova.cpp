@@ -26,7 +26,7 @@ std::string Record(const std::string& sNumeri)
 }
 
 struct FinestraStatistica : testing::Test {
-    std::string Archivio(const std::string& sContenuto)
+    std::string Archivio(const std::string& sContenuto) const
     {
         prove::ScriviFile(cartella / "a.bd", sContenuto);
         return cartella / "a.bd";
@@ -74,7 +74,7 @@ TEST_F(FinestraStatistica, MostraSubitoLaMisuraNaturale)
         kStatConsecutivi, kSuperEnalotto,
         Archivio(Record("\1\2\3\4\5\6") + Record("\1\2\4\6\10\20") + Record(std::string(6, '\0'))));
     EXPECT_EQ(finestra.sTitolo, "Statistica: Consecutivi");
-    EXPECT_EQ(finestra.LabGioco.Testo.Valore(), "SuperEnalotto");
+    EXPECT_EQ(finestra.LabGioco.Testo.Valore(), "SuperEnalotto, 6 numeri");
     EXPECT_FALSE(finestra.CmbRuota.Visibile.Valore());
     EXPECT_FALSE(finestra.CmbVariante.Visibile.Valore());
     EXPECT_EQ(finestra.CmbUltime.Testo(), "20");

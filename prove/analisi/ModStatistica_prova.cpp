@@ -43,7 +43,7 @@ VarianteStatistica Variante(TipoCondizione tipo, std::int16_t nNumeri, std::size
 struct Statistiche : testing::Test {
     /// Writes an archive of draws in the order of their records, the wheel's numbers at its place.
     FonteStatistica Archivio(std::string_view sGioco, const std::vector<Numeri>& aEstrazioni,
-                             std::int16_t nRuota = 1)
+                             std::int16_t nRuota = 1) const
     {
         const FonteStatistica fonte{
             .gioco = &Gioco(sGioco), .sArchivio = cartella / "a.bd", .nRuota = nRuota};
@@ -219,7 +219,7 @@ Misura ConCaselle(std::int32_t (*funzione)(std::int16_t, const Colonna&, const F
     return [=](std::int16_t n, const Colonna& c) { return funzione(n, c, Caselle(nDa, nA)); };
 }
 
-Misura QuantiNumeri(std::function<bool(std::uint8_t)> scelta)
+Misura QuantiNumeri(const std::function<bool(std::uint8_t)>& scelta)
 {
     return [scelta](std::int16_t n, const Colonna& c) {
         return static_cast<std::int32_t>(std::count_if(c.aNumeri.begin(), c.aNumeri.begin() + n, scelta));

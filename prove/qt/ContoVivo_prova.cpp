@@ -163,10 +163,29 @@ TEST_F(ContoVivoProva, NonContaDuranteUnaCorsa)
     };
     Sviluppa();
     EXPECT_TRUE(bVista);
-    EXPECT_EQ(aMotivi, QStringList("sviluppo in corso"));
+    EXPECT_EQ(aMotivi, QStringList("elaborazione in corso"));
     EXPECT_EQ(aEsatti.size(), 1U);
     Conta();
     EXPECT_EQ(aEsatti.size(), 2U) << "dopo la corsa si conta di nuovo";
+}
+
+TEST_F(ContoVivoProva, UnaCorsaFermaIlContoAncheSeNessunoGuarda)
+{
+    SistemaLungo();
+    conto->controlla();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !aStime.empty(); }, 20000));
+    sistema.GetGridCond().Svuota();
+    for (std::int16_t n = 31; n <= 90; ++n) {
+        sistema.SelezionaNumero(n, false);
+    }
+    bool bFermato = false;
+    piattaforma.eventi = [&] {
+        bFermato = bFermato || QTest::qWaitFor([&] { return !conto->occupato(); }, 5000);
+    };
+    Sviluppa();
+    EXPECT_TRUE(bFermato);
+    EXPECT_EQ(aMotivi, QStringList("elaborazione in corso"));
+    EXPECT_TRUE(aEsatti.empty());
 }
 
 TEST_F(ContoVivoProva, UnSistemaCheNonSiContaDicePerche)

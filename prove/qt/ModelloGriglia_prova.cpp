@@ -131,6 +131,14 @@ TEST_F(ModelloGrigliaProva, ChiNonVedeSenteCondizioneERiga)
               "Condizione 2, Consecutivi");
 }
 
+TEST_F(ModelloGrigliaProva, UnTestoCheSembraUnaPaginaRestaUnTesto)
+{
+    sistema.GetGridCond().Riga(1) = {"Peso", "<b>1</b>", "", "", ""};
+    modello.aggiorna();
+    EXPECT_EQ(dato(rigaParametri, 1).toString(), "<b>1</b>");
+    EXPECT_EQ(dato(rigaParametri, 1, Qt::ToolTipRole).toString(), "<pre>&lt;b&gt;1&lt;/b&gt;</pre>");
+}
+
 TEST_F(ModelloGrigliaProva, ITagliSonoQuelliDelConto)
 {
     Riempi(prove::DodiciCondizioni());

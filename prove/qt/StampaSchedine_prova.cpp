@@ -7,15 +7,22 @@
 #include "qt/Legami.hpp"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QDialog>
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
 #include <QImage>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPrinter>
 #include <QProcess>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QTest>
 #include <QTimer>
@@ -223,7 +230,9 @@ TEST_F(Schedine, LAnteprimaSfogliaETienePochePagine)
         bVista = true;
         EXPECT_EQ(finestra->Pagine(), 50);
         EXPECT_FALSE(finestra->findChild<QPushButton*>("Indietro")->isEnabled());
-        QTest::keyClick(finestra, Qt::Key_PageDown);
+        auto* scorre = finestra->findChild<QScrollArea*>("Scorre");
+        EXPECT_TRUE(scorre == finestra->focusWidget());
+        QTest::keyClick(scorre, Qt::Key_PageDown);
         EXPECT_EQ(finestra->Pagina(), 1);
         QTest::mouseClick(finestra->findChild<QPushButton*>("Avanti"), Qt::LeftButton);
         EXPECT_EQ(finestra->Pagina(), 2);
@@ -233,12 +242,88 @@ TEST_F(Schedine, LAnteprimaSfogliaETienePochePagine)
             EXPECT_LE(finestra->PagineTenute(), AnteprimaSchedine::kPagineTenute);
         }
         EXPECT_FALSE(finestra->findChild<QPushButton*>("Avanti")->isEnabled());
-        QTest::keyClick(finestra, Qt::Key_PageUp);
+        QTest::keyClick(scorre, Qt::Key_PageDown);
+        EXPECT_EQ(finestra->Pagina(), 49);
+        QTest::keyClick(scorre, Qt::Key_PageUp);
         EXPECT_EQ(finestra->Pagina(), 48);
         QTest::mouseClick(finestra->findChild<QPushButton*>("Chiudi"), Qt::LeftButton);
     });
     stampa.Anteprima(nullptr);
     EXPECT_TRUE(bVista);
+}
+
+TEST_F(Schedine, UnaPaginaGrandeSiScorrePrimaDiSfogliarla)
+{
+    StampaSchedine stampa(Colonne(100), 5, "Lotto");
+    AnteprimaSchedine finestra(stampa, nullptr);
+    finestra.resize(500, 400);
+    finestra.show();
+    finestra.findChild<QComboBox*>("Ingrandimento")->setCurrentIndex(5);
+    auto* scorre = finestra.findChild<QScrollArea*>("Scorre");
+    ASSERT_GT(scorre->verticalScrollBar()->maximum(), 0);
+    QTest::keyClick(scorre, Qt::Key_PageDown);
+    EXPECT_EQ(finestra.Pagina(), 0);
+    scorre->verticalScrollBar()->setValue(scorre->verticalScrollBar()->maximum());
+    QTest::keyClick(scorre, Qt::Key_PageDown);
+    EXPECT_EQ(finestra.Pagina(), 1);
+    EXPECT_EQ(scorre->verticalScrollBar()->value(), 0);
+    QTest::keyClick(scorre, Qt::Key_PageUp);
+    EXPECT_EQ(finestra.Pagina(), 0);
+    EXPECT_EQ(scorre->verticalScrollBar()->value(), scorre->verticalScrollBar()->maximum());
+}
+
+TEST_F(Schedine, IlPdfSiChiedeESiScrive)
+{
+    StampaSchedine stampa(Colonne(30), 5, "Lotto");
+    QTimer::singleShot(0, [&] {
+        auto* finestra = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(finestra, nullptr);
+        auto* nome = finestra->findChild<QLineEdit*>("fileNameEdit");
+        EXPECT_EQ(nome->text(), "colonne.pdf");
+        nome->setText(Testo(cartella / "schedine"));
+        QTest::keyClick(nome, Qt::Key_Return);
+    });
+    stampa.ChiediEStampaPdf(nullptr);
+    EXPECT_TRUE(Uscita("pdfinfo", {Pdf()}).contains(QRegularExpression("Pages: +2\n")));
+}
+
+TEST_F(Schedine, ChiRinunciaNonStampa)
+{
+    StampaSchedine stampa(Colonne(30), 5, "Lotto");
+    for (const auto& chiedi : {&StampaSchedine::ChiediEStampa, &StampaSchedine::ChiediEStampaPdf}) {
+        bool bVista = false;
+        QTimer::singleShot(0, [&] {
+            auto* finestra = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(finestra, nullptr);
+            bVista = true;
+            finestra->reject();
+        });
+        (stampa.*chiedi)(nullptr);
+        EXPECT_TRUE(bVista);
+    }
+    EXPECT_EQ(QDir(Testo(cartella / "")).entryList(QDir::Files).size(), 1);
+}
+
+TEST_F(Schedine, UnLavoroLungoSiInterrompe)
+{
+    StampaSchedine stampa(Colonne(20000), 5, "Lotto");
+    bool bInterrotto = false;
+    QTimer premi;
+    QObject::connect(&premi, &QTimer::timeout, [&] {
+        QWidget* davanti = QApplication::activeModalWidget();
+        if (auto* scelta = qobject_cast<QFileDialog*>(davanti)) {
+            scelta->findChild<QLineEdit*>("fileNameEdit")->setText(Pdf());
+            QTest::keyClick(scelta->findChild<QLineEdit*>("fileNameEdit"), Qt::Key_Return);
+        } else if (auto* barra = qobject_cast<QProgressDialog*>(davanti)) {
+            bInterrotto = true;
+            EXPECT_TRUE(barra->labelText().contains("di 1000"));
+            QTest::mouseClick(barra->findChild<QPushButton*>(), Qt::LeftButton);
+        }
+    });
+    premi.start(20);
+    stampa.ChiediEStampaPdf(nullptr);
+    EXPECT_TRUE(bInterrotto);
+    EXPECT_FALSE(QFile::exists(Pdf()));
 }
 
 } // namespace ordavel::qt

@@ -13,6 +13,7 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <QWheelEvent>
 #include <gtest/gtest.h>
 
 namespace ordavel::qt {
@@ -375,6 +376,34 @@ TEST_F(VistaGrigliaProva, LeBarreVengonoDalConto)
     ASSERT_TRUE(QTest::qWaitFor([&] { return vista.modello().taglio(1).has_value(); }));
     EXPECT_DOUBLE_EQ(vista.modello().taglio(1)->nQuota, 64.0 / 120);
     EXPECT_TRUE(vista.modello().taglio(1)->bEsatto);
+}
+
+TEST_F(VistaGrigliaProva, LaBarraELungaQuantoTaglia)
+{
+    Riempi({{"Consecutivi", "Consecutivi", "0", "-", " "}});
+    Mostra();
+    ConteggioSistema conto;
+    conto.aCondizioni = {{.nOk = 25, .nKo = 75, .nRec = 0, .nErrore = 0, .bEsatto = true}};
+    vista.modello().poniConto(conto);
+    QHeaderView* testata = vista.horizontalHeader();
+    const QImage figura = testata->viewport()->grab().toImage();
+    const QRect sezione(testata->sectionViewportPosition(1), 0, testata->sectionSize(1), testata->height());
+    const QRect posto = static_cast<TestataGriglia*>(testata)->postoTaglio(sezione);
+    int nPiene = 0;
+    for (int nX = posto.left(); nX <= posto.right(); ++nX) {
+        nPiene += figura.pixelColor(nX, posto.center().y()) == vista.palette().color(QPalette::Highlight);
+    }
+    EXPECT_NEAR(nPiene, 0.75 * sezione.width(), 4);
+}
+
+TEST_F(VistaGrigliaProva, LaRotellaScorreDiLatoDoveNonCeAltro)
+{
+    Mostra(900, 900);
+    const QPointF centro = vista.viewport()->rect().center();
+    QWheelEvent giro(centro, vista.viewport()->mapToGlobal(centro), {}, {0, -120}, Qt::NoButton, {},
+                     Qt::NoScrollPhase, false);
+    QApplication::sendEvent(vista.viewport(), &giro);
+    EXPECT_GT(Stato().PrimaColonna.Valore(), 1);
 }
 
 TEST_F(VistaGrigliaProva, UnLettoreDiSchermoTrovaOgniCella)

@@ -134,7 +134,8 @@ F_Statistica::F_Statistica(std::int32_t nIdStatistica, std::int16_t nGioco, std:
       m_Fonte{.gioco = &Esistente(TrovaGiocoNumero(nGioco)), .sArchivio = std::move(sArchivio), .nRuota = 1},
       m_aVarianti(VariantiStatistica(m_Voce, NumeriColonnaDi(*m_Fonte.gioco)))
 {
-    LabGioco.Testo.Poni(std::string(m_Fonte.gioco->sNome));
+    LabGioco.Testo.Poni(std::string(m_Fonte.gioco->sNome) + ", " +
+                        std::to_string(NumeriColonnaDi(*m_Fonte.gioco)) + " numeri");
     CmbRuota.Visibile.Poni(HaRuote(*m_Fonte.gioco));
     for (const std::string_view sRuota : Ruote()) {
         CmbRuota.Aggiungi(sRuota);

@@ -44,10 +44,10 @@ public:
     /// Where the mean stands among the bars: 0 at the left edge of the first, 1 at the left edge of the second.
     [[nodiscard]] double PostoMedia() const noexcept;
 
-    Etichetta LabGioco;
-    Combo CmbRuota;    ///< visible for a game with wheels
-    Combo CmbVariante; ///< visible for a kind with a parameter
-    Combo CmbUltime;   ///< how many of the latest draws
+    Etichetta LabGioco; ///< with how many numbers of a draw are looked at
+    Combo CmbRuota;     ///< visible for a game with wheels
+    Combo CmbVariante;  ///< visible for a kind with a parameter
+    Combo CmbUltime;    ///< how many of the latest draws
     Etichetta LabUsate;
     Etichetta LabMedia;
     Etichetta LabLimiti;

@@ -79,8 +79,9 @@ std::int64_t PaginaSchedine::SchedineTotali(std::int64_t nColonne) const noexcep
 RettangoloMm PaginaSchedine::Schedina(std::int32_t nSchedina) const noexcept
 {
     const double nLargo = LarghezzaSchedina(m_nPannelli);
+    const std::int32_t nRiga = nSchedina / m_nPerRiga;
     return {.nX = m_nSinistra + nSchedina % m_nPerRiga * (nLargo + kDistanzaMm),
-            .nY = m_nAlto + nSchedina / m_nPerRiga * (kAltezzaSchedina + kDistanzaMm),
+            .nY = m_nAlto + nRiga * (kAltezzaSchedina + kDistanzaMm),
             .nLarghezza = nLargo,
             .nAltezza = kAltezzaSchedina};
 }
@@ -105,8 +106,9 @@ RettangoloMm PaginaSchedine::Casella(std::int32_t nSchedina, std::int32_t nPanne
                                      std::int32_t nNumero) const noexcept
 {
     const RettangoloMm testata = TestataPannello(nSchedina, nPannello);
+    const std::int32_t nRiga = (nNumero - 1) / kNumeriRiga;
     return {.nX = testata.nX + (nNumero - 1) % kNumeriRiga * kCasellaMm,
-            .nY = testata.nY + kTestataPannelloMm + (nNumero - 1) / kNumeriRiga * kCasellaMm,
+            .nY = testata.nY + kTestataPannelloMm + nRiga * kCasellaMm,
             .nLarghezza = kCasellaMm,
             .nAltezza = kCasellaMm};
 }

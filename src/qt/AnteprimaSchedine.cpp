@@ -64,6 +64,8 @@ AnteprimaSchedine::AnteprimaSchedine(StampaSchedine& stampa, QWidget* padre)
     m_Scorre->setAccessibleName("Pagina di schedine");
     m_Scorre->setWidget(m_Foglio);
     m_Scorre->setAlignment(Qt::AlignCenter);
+    m_Scorre->installEventFilter(this);
+    m_Scorre->setFocus();
     m_Scorre->setBackgroundRole(QPalette::Mid);
     auto* tutto = new QVBoxLayout(this);
     tutto->addLayout(Comandi());
@@ -178,13 +180,30 @@ void AnteprimaSchedine::showEvent(QShowEvent* evento)
     m_Legami.Protetto([this] { Aggiorna(); });
 }
 
-void AnteprimaSchedine::keyPressEvent(QKeyEvent* evento)
+/// Turns the page where there is nothing left to scroll.
+/// Gives    false for a key that scrolls, or is another
+bool AnteprimaSchedine::Sfoglia(int nTasto)
 {
-    const int nVerso = evento->key() == Qt::Key_PageDown ? 1 : evento->key() == Qt::Key_PageUp ? -1 : 0;
-    if (nVerso == 0) {
-        return QDialog::keyPressEvent(evento);
+    QScrollBar* barra = m_Scorre->verticalScrollBar();
+    const bool bAvanti = nTasto == Qt::Key_PageDown && barra->value() == barra->maximum();
+    const bool bIndietro = nTasto == Qt::Key_PageUp && barra->value() == barra->minimum();
+    const std::int64_t nPagina = m_nPagina + (bAvanti ? 1 : -1);
+    if ((!bAvanti && !bIndietro) || nPagina < 0 || nPagina >= m_nPagine) {
+        return false;
     }
-    m_Legami.Protetto([&] { VaiAPagina(m_nPagina + nVerso); });
+    VaiAPagina(nPagina);
+    barra->setValue(bAvanti ? barra->minimum() : barra->maximum());
+    return true;
+}
+
+bool AnteprimaSchedine::eventFilter(QObject* oggetto, QEvent* evento)
+{
+    bool bSfogliata = false;
+    if (oggetto == m_Scorre && evento->type() == QEvent::KeyPress) {
+        const int nTasto = static_cast<QKeyEvent*>(evento)->key();
+        m_Legami.Protetto([&] { bSfogliata = Sfoglia(nTasto); });
+    }
+    return bSfogliata || QDialog::eventFilter(oggetto, evento);
 }
 
 } // namespace ordavel::qt

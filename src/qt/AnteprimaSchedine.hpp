@@ -21,7 +21,8 @@ namespace ordavel::qt {
 
 class StampaSchedine;
 
-/// Shows one page at a time and keeps a few painted ones: a job may have millions. Page up and page down turn.
+/// Shows one page at a time and keeps a few painted ones: a job may have millions. Page up and page down turn it, once
+/// they have scrolled to its end.
 class AnteprimaSchedine : public QDialog {
     Q_OBJECT
 
@@ -41,13 +42,14 @@ public:
 protected:
     void resizeEvent(QResizeEvent* evento) override;
     void showEvent(QShowEvent* evento) override;
-    void keyPressEvent(QKeyEvent* evento) override;
+    bool eventFilter(QObject* oggetto, QEvent* evento) override;
 
 private:
     [[nodiscard]] QLayout* Comandi();
     QPushButton* NuovoPulsante(const QString& sNome, const QString& sTesto, std::function<void()> azione);
     [[nodiscard]] double PuntiPerMm() const;
     [[nodiscard]] QPixmap Dipinta(std::int64_t nPagina, double nPerMm);
+    bool Sfoglia(int nTasto);
     void Aggiorna();
 
     StampaSchedine& m_Stampa;

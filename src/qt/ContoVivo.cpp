@@ -16,6 +16,7 @@ namespace {
 
 /// A row of changes, as when numbers are chosen one by one, is counted once; a single one soon enough.
 constexpr int kAttesaMillisecondi = 15;
+constexpr int kGuardiaMillisecondi = 50;
 constexpr double kColonneCamminate = 1e9;
 
 } // namespace
@@ -116,11 +117,14 @@ ContoVivo::ContoVivo(Ordavel& componente, QObject* padre)
     : QObject(padre),
       m_Componente(componente),
       m_Opzioni{.nColonneMassime = kColonneCamminate},
-      m_Attesa(this)
+      m_Attesa(this),
+      m_Guardia(this)
 {
     m_Attesa.setSingleShot(true);
     m_Attesa.setInterval(kAttesaMillisecondi);
     connect(&m_Attesa, &QTimer::timeout, this, &ContoVivo::prepara);
+    m_Guardia.setInterval(kGuardiaMillisecondi);
+    connect(&m_Guardia, &QTimer::timeout, this, &ContoVivo::controlla);
 }
 
 ContoVivo::~ContoVivo() = default;
@@ -168,7 +172,7 @@ void ContoVivo::controlla()
         if (m_Filo) {
             m_Filo->annulla();
         }
-        m_bOccupato = true;
+        occupa(true);
         m_Attesa.start();
         Q_EMIT cominciato();
     }
@@ -182,7 +186,7 @@ void ContoVivo::ferma()
         m_Filo->annulla();
     }
     if (!std::exchange(m_bFermo, true)) {
-        rinuncia(QStringLiteral("sviluppo in corso"));
+        rinuncia(QStringLiteral("elaborazione in corso"));
     }
 }
 
@@ -223,16 +227,26 @@ void ContoVivo::consegna()
     m_Filo->conta(std::move(sistema), m_Opzioni);
 }
 
+void ContoVivo::occupa(bool bOccupato)
+{
+    m_bOccupato = bOccupato;
+    if (!bOccupato) {
+        m_Guardia.stop();
+    } else if (!m_Guardia.isActive()) {
+        m_Guardia.start();
+    }
+}
+
 void ContoVivo::rinuncia(const QString& sMotivo)
 {
-    m_bOccupato = false;
+    occupa(false);
     Q_EMIT nessuno(sMotivo);
     Q_EMIT finito();
 }
 
 void ContoVivo::arriva(const ConteggioSistema& conto, bool bUltimo)
 {
-    m_bOccupato = !bUltimo;
+    occupa(!bUltimo);
     if (conto.bEsatto) {
         Q_EMIT esatto(conto);
     } else {

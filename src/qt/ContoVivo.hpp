@@ -67,6 +67,7 @@ private:
     void prepara();
     void consegna();
     [[nodiscard]] QString impedimento() const;
+    void occupa(bool bOccupato);
     void rinuncia(const QString& sMotivo);
     void arriva(const ConteggioSistema& conto, bool bUltimo);
 
@@ -75,6 +76,7 @@ private:
     Impronta m_Impronta;
     ContenutoSistema m_Contenuto; ///< of the system that was counted last
     QTimer m_Attesa;
+    QTimer m_Guardia;      ///< looks for a run while a count is on its way: a run does not let the loop rest
     bool m_bSporco = true; ///< to be counted whether it has changed or not
     bool m_bFermo = false; ///< a run is on its way
     bool m_bOccupato = false;

@@ -13,6 +13,9 @@ namespace ordavel::qt {
 
 namespace {
 
+/// No cell has room for more, whatever a file has put there.
+constexpr qsizetype kLettereMassime = 2000;
+
 /// With line breaks that a layout understands, and places where a list may be broken.
 QString Impaginabile(QString sTesto)
 {
@@ -42,7 +45,7 @@ void DipingiRighe(QPainter& penna, const QRectF& dove, const QString& sTesto, co
     if (sTesto.isEmpty() || dove.width() < 1) {
         return;
     }
-    QTextLayout pagina(Impaginabile(sTesto), carattere, penna.device());
+    QTextLayout pagina(Impaginabile(sTesto.left(kLettereMassime)), carattere, penna.device());
     Impagina(pagina, dove.width());
     const QFontMetricsF misure(carattere, penna.device());
     const qreal nAlta = pagina.lineAt(0).height();

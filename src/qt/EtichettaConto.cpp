@@ -11,6 +11,8 @@ EtichettaConto::EtichettaConto(QWidget* padre) : QLabel(padre)
 {
     setObjectName("LabConto");
     setTextFormat(Qt::PlainText);
+    // A long reason makes no window wider; the tool tip has it whole.
+    setMinimumWidth(1);
     setTextInteractionFlags(Qt::TextSelectableByMouse);
     mostra(QStringLiteral("Passano:"));
 }
@@ -24,7 +26,7 @@ void EtichettaConto::segui(ContoVivo& conto)
     connect(&conto, &ContoVivo::stima, this, mostraConto);
     connect(&conto, &ContoVivo::esatto, this, mostraConto);
     connect(&conto, &ContoVivo::nessuno, this,
-            [this](const QString& sMotivo) { mostra(QStringLiteral("Nessun conto: ") + sMotivo); });
+            [this](const QString& sMotivo) { mostra(QStringLiteral("Nessun conto: ") + sMotivo, sMotivo); });
     connect(&conto, &ContoVivo::finito, this, [this] { occupa(false); });
 }
 

@@ -317,9 +317,7 @@ void GraficoBarre::DipingiEtichette(QPainter& pittore) const
         const double nLarga = misure.horizontalAdvance(sTesto) + 2;
         const double nX = std::clamp(Rettangolo(nBarra).center().x() - nLarga / 2, 0.0, width() - nLarga);
         const QRectF posto(nX, nY, nLarga, nRiga);
-        if (nBarra == m_nEvidenziata) {
-            pittore.fillRect(posto, palette().base());
-        }
+        pittore.fillRect(posto, palette().base());
         pittore.drawText(posto, Qt::AlignCenter, sTesto);
     };
     for (int i = 0; i < Barre(); ++i) {

@@ -99,18 +99,24 @@ public:
     template <typename Mittente, typename Segnale, typename Azione>
     void Al(Mittente* mittente, Segnale segnale, Azione azione)
     {
-        connect(mittente, segnale, this, [this, azione](auto... aArgomenti) {
-            Protetto([&] {
-                if constexpr (std::is_invocable_v<Azione, decltype(aArgomenti)...>) {
-                    azione(aArgomenti...);
-                } else {
-                    azione();
-                }
-            });
+        connect(mittente, segnale, this, [this, azione](auto... aArgomenti) -> void {
+            Protetto([&] { Chiama(azione, aArgomenti...); });
         });
     }
 
 private:
+    /// With the arguments, or without any. A function of its own, since Clang 14 looks at both ways of a choice that is
+    /// made inside a lambda.
+    template <typename Azione, typename... Argomenti>
+    static void Chiama(const Azione& azione, const Argomenti&... aArgomenti)
+    {
+        if constexpr (std::is_invocable_v<const Azione&, const Argomenti&...>) {
+            azione(aArgomenti...);
+        } else {
+            azione();
+        }
+    }
+
     Segnalatore& m_Segnalatore;
     std::string m_sOrigine;
     bool m_bTagliati = false;

@@ -7,6 +7,7 @@
 #include "qt/TestoConto.hpp"
 
 #include <QApplication>
+#include <QTextDocument>
 
 #include <algorithm>
 #include <array>
@@ -35,6 +36,12 @@ QString InUnaRiga(const QString& sTesto)
                             return s.size() == 1 && s.front().isLetter();
                         });
     return aRighe.join(bInGiu ? QString() : QStringLiteral(" ")).simplified();
+}
+
+/// A tool tip shows a text as it stands, also one that looks like markup.
+QString Suggerimento(const QString& sTesto)
+{
+    return Qt::mightBeRichText(sTesto) ? "<pre>" + sTesto.toHtmlEscaped() + "</pre>" : sTesto;
 }
 
 QFont Carattere(std::string_view sNome, QFont::StyleHint specie)
@@ -245,8 +252,9 @@ QVariant ModelloGriglia::data(const QModelIndex& indice, int nRuolo) const
     const int nColonna = indice.column();
     switch (nRuolo) {
     case Qt::DisplayRole:
-    case Qt::ToolTipRole:
         return testo(nRiga, nColonna);
+    case Qt::ToolTipRole:
+        return Suggerimento(testo(nRiga, nColonna));
     case Qt::AccessibleTextRole:
         return testoParlato(nRiga, nColonna);
     case Qt::AccessibleDescriptionRole:
@@ -281,7 +289,9 @@ QVariant ModelloGriglia::headerData(int nSezione, Qt::Orientation verso, int nRu
         return {};
     }
     aRighe.removeAll(QString());
-    return aRighe.join(nRuolo == Qt::AccessibleTextRole ? QStringLiteral(", ") : QStringLiteral("\n"));
+    const QString sTesto =
+        aRighe.join(nRuolo == Qt::AccessibleTextRole ? QStringLiteral(", ") : QStringLiteral("\n"));
+    return nRuolo == Qt::ToolTipRole ? Suggerimento(sTesto) : sTesto;
 }
 
 Qt::ItemFlags ModelloGriglia::flags(const QModelIndex& indice) const

@@ -81,14 +81,12 @@ void Prepara(QPdfWriter& pdf, const QString& sTitolo)
 /// The sheet of a printer, with the margins that it cannot print or 10 mm, whichever is more.
 FoglioMm FoglioDi(const QPageLayout& pagina)
 {
-    const QRectF tutto = pagina.fullRect(QPageLayout::Millimeter);
-    const QMarginsF margini = QPageLayout(pagina).minimumMargins();
-    const double nPunti = std::max({margini.left(), margini.right(), margini.top(), margini.bottom()});
-    FoglioMm foglio{.nLarghezza = tutto.width(), .nAltezza = tutto.height()};
+    QPageLayout inMm = pagina;
+    inMm.setUnits(QPageLayout::Millimeter);
+    const QMarginsF minimi = inMm.minimumMargins();
+    FoglioMm foglio{.nLarghezza = inMm.fullRect().width(), .nAltezza = inMm.fullRect().height()};
     foglio.nMargine =
-        std::max(foglio.nMargine, QPageSize(QSizeF(nPunti, nPunti), QPageSize::Unit(pagina.units()))
-                                      .size(QPageSize::Millimeter)
-                                      .width());
+        std::max({foglio.nMargine, minimi.left(), minimi.right(), minimi.top(), minimi.bottom()});
     return foglio;
 }
 

@@ -50,10 +50,12 @@ public:
     bool Stampa(QPrinter& stampante, const Avanzamento& avanzamento = {});
 
     /// Asks for printer and pages, then prints; a long job shows how far it is and can be stopped.
+    /// Fails    as Stampa
     void ChiediEStampa(QWidget* padre);
     /// Asks for a file, then writes the PDF; likewise.
+    /// Fails    as StampaPdf
     void ChiediEStampaPdf(QWidget* padre);
-    /// Shows the pages.
+    /// Shows the pages, with ways to print them; what fails there is shown in a box.
     void Anteprima(QWidget* padre);
 
 private:

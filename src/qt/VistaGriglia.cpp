@@ -7,6 +7,7 @@
 #include "qt/TestataGriglia.hpp"
 
 #include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -69,6 +70,13 @@ VistaGriglia::VistaGriglia(Ordavel& componente, Segnalatore& segnalatore, QWidge
     poniAltezze();
     seguiCorrente();
     legaStati();
+}
+
+/// The model goes before the view that shows it.
+VistaGriglia::~VistaGriglia()
+{
+    m_Legami.Taglia();
+    setModel(nullptr);
 }
 
 /// The two fixed rows are the header of the columns, the fixed column is that of the rows.
@@ -422,21 +430,11 @@ void VistaGriglia::wheelEvent(QWheelEvent* evento)
     }
 }
 
-void VistaGriglia::changeEvent(QEvent* evento)
-{
-    QTableView::changeEvent(evento);
-    if (evento->type() == QEvent::PaletteChange && m_Angolo != nullptr) {
-        m_Angolo->update();
-    }
-}
-
 void VistaGriglia::updateGeometries()
 {
     QTableView::updateGeometries();
-    if (m_Angolo != nullptr) {
-        m_Angolo->setGeometry(frameWidth(), frameWidth(), verticalHeader()->width(), m_Testata->height());
-        m_Angolo->raise();
-    }
+    m_Angolo->setGeometry(frameWidth(), frameWidth(), verticalHeader()->width(), m_Testata->height());
+    m_Angolo->raise();
 }
 
 } // namespace ordavel::qt

@@ -26,6 +26,9 @@ public:
     /// Takes    componente    outlives it
     ///          segnalatore   where failures are shown; outlives it
     VistaGriglia(Ordavel& componente, Segnalatore& segnalatore, QWidget* padre = nullptr);
+    VistaGriglia(const VistaGriglia&) = delete;
+    VistaGriglia& operator=(const VistaGriglia&) = delete;
+    ~VistaGriglia() override;
 
     /// Shows what was written into the grid since; costs nothing when nothing was.
     void aggiorna();
@@ -43,7 +46,8 @@ public:
 
 Q_SIGNALS:
     /// The selected condition is to be edited (double click, F2, Enter), deleted (Del); an empty one is to be put in front
-    /// of it (Ins). A menu for it is asked for by customContextMenuRequested, in coordinates of the viewport.
+    /// of it (Ins). A menu for it is asked for by customContextMenuRequested, in coordinates of the viewport, without
+    /// any policy being set.
     void modificaChiesta();
     void eliminaChiesta();
     void inserisciChiesta();
@@ -60,7 +64,6 @@ protected:
     void resizeEvent(QResizeEvent* evento) override;
     void showEvent(QShowEvent* evento) override;
     void wheelEvent(QWheelEvent* evento) override;
-    void changeEvent(QEvent* evento) override;
     void updateGeometries() override;
 
 private:
@@ -87,9 +90,8 @@ private:
     ModelloGriglia m_Modello;
     TestataGriglia* m_Testata;
     AngoloGriglia* m_Angolo;
-    int m_nRigheParametri = 0; ///< lines that the longest "Parametri" takes
-    bool m_bSegue = false;     ///< the logic has moved something, not the user
-    bool m_bTasti = false;     ///< a key is being obeyed
+    bool m_bSegue = false; ///< the logic has moved something, not the user
+    bool m_bTasti = false; ///< a key is being obeyed
 };
 
 } // namespace ordavel::qt
