@@ -8,7 +8,7 @@ PACCHETTI_PROGRAMMA=(cmake ninja-build g++ libcli11-dev nlohmann-json3-dev)
 # What the face and the desktop program are built with. The two libraries at the end are only recommended by Qt's
 # own packages, and recommendations stay out: without them its Designer part is not found.
 # shellcheck disable=SC2034
-PACCHETTI_FACCIA=(qt6-base-dev libqt6svg6-dev qt6-tools-dev qt6-tools-dev-tools libqt6opengl6-dev libxkbcommon-dev
+PACCHETTI_FACCIA=(qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools libqt6opengl6-dev libxkbcommon-dev
     qt6-translations-l10n fonts-dejavu-core fonts-liberation2)
 
 # What the tests, the sanitizers of both compilers and the checks of the code want besides. The run-time

@@ -1,0 +1,81 @@
+// Schermate_prova.cpp - pictures of the program's own windows, to be looked at.
+//
+// They are written into the folder that ORDAVEL_SCHERMATE names; without it only that they can be drawn is tested.
+
+#include "FinestraInProva.hpp"
+#include "core/ModGiochi.hpp"
+#include "desktop/F_ImportaArchivio.hpp"
+#include "desktop/F_Impostazioni.hpp"
+#include "desktop/F_Manuale.hpp"
+#include "qt/PiattaformaQt.hpp"
+
+#include <QImage>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPixmap>
+#include <QTabWidget>
+
+namespace ordavel::desktop {
+namespace {
+
+class SchermateDesktop : public FinestraInProva {
+protected:
+    void Scatta(QWidget& widget, const QString& sNome)
+    {
+        widget.show();
+        QApplication::processEvents();
+        const QPixmap immagine = widget.grab();
+        EXPECT_FALSE(immagine.isNull());
+        const QString sCartella = qEnvironmentVariable("ORDAVEL_SCHERMATE", In(""));
+        EXPECT_TRUE(immagine.save(sCartella + "/desktop-" + sNome + ".png"));
+    }
+
+    /// Every label has the room that its text wants.
+    static void NullaTagliato(const QWidget& widget)
+    {
+        for (const QLabel* etichetta : widget.findChildren<QLabel*>()) {
+            if (etichetta->isVisible() && !etichetta->wordWrap()) {
+                EXPECT_GE(etichetta->width(), etichetta->sizeHint().width())
+                    << etichetta->text().toStdString();
+            }
+        }
+    }
+};
+
+TEST_F(SchermateDesktop, LaFinestra)
+{
+    Scatta(Finestra(), "finestra");
+}
+
+TEST_F(SchermateDesktop, LePagineDelleImpostazioni)
+{
+    qt::PiattaformaQt piattaforma(nullptr);
+    Impostazioni impostazioni = LeggiImpostazioni(archivio);
+    impostazioni.aArchivi[0] = QStringLiteral(ORDAVEL_ARCHIVI "/lotto.bd");
+    impostazioni.aArchivi[1] = QStringLiteral(ORDAVEL_ARCHIVI "/10elotto.bd");
+    impostazioni.aArchivi[3] = In("manca.bd");
+    F_Impostazioni dialogo(impostazioni, piattaforma, nullptr);
+    for (int i = 0; i < 3; ++i) {
+        dialogo.findChild<QTabWidget*>()->setCurrentIndex(i);
+        Scatta(dialogo, QString("impostazioni-%1").arg(i));
+        NullaTagliato(dialogo);
+    }
+}
+
+TEST_F(SchermateDesktop, LImportazione)
+{
+    qt::PiattaformaQt piattaforma(nullptr);
+    F_ImportaArchivio importa(*TrovaGioco("Lotto"), In("lotto.bd"), piattaforma, nullptr);
+    importa.findChild<QLineEdit*>("Testo")->setText(QStringLiteral(ORDAVEL_ARCHIVI "/lotto.csv"));
+    Scatta(importa, "importa");
+    NullaTagliato(importa);
+}
+
+TEST_F(SchermateDesktop, IlManuale)
+{
+    F_Manuale manuale(nullptr);
+    Scatta(manuale, "manuale");
+}
+
+} // namespace
+} // namespace ordavel::desktop
