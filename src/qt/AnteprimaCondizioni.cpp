@@ -110,6 +110,8 @@ AnteprimaCondizioni::AnteprimaCondizioni(QWidget* padre) : QTableView(padre), m_
     setEditTriggers(NoEditTriggers);
     setTabKeyNavigation(false);
     setCornerButtonEnabled(false);
+    horizontalHeader()->setHighlightSections(false);
+    verticalHeader()->setHighlightSections(false);
     setHorizontalScrollMode(ScrollPerPixel);
     setVerticalScrollMode(ScrollPerPixel);
     const QFontMetrics lettere(CarattereCelle(false));
@@ -130,7 +132,7 @@ void AnteprimaCondizioni::Mostra(const GrigliaCondizioni& griglia)
     m_nRevisione = griglia.Revisione();
     m_Modello.Mostra(griglia);
     if (m_Modello.columnCount() > 0) {
-        setCurrentIndex(m_Modello.index(0, 0));
+        selectionModel()->setCurrentIndex(m_Modello.index(0, 0), QItemSelectionModel::NoUpdate);
     }
     scrollToTop();
 }

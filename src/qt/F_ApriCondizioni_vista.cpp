@@ -38,6 +38,7 @@ F_ApriCondizioniVista::F_ApriCondizioniVista(F_ApriCondizioni& dialogo, Piattafo
     legami().Al(file, qOverload<int>(&QComboBox::currentIndexChanged),
                 [&dialogo, anteprima] { anteprima->Mostra(dialogo.GrdCond); });
     AggiungiPulsanti(dialogo, tutto);
+    file->setFocus();
 }
 
 } // namespace ordavel::qt

@@ -9,6 +9,7 @@
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 #include <QTableView>
 
 #include <algorithm>
@@ -19,6 +20,19 @@ namespace {
 
 /// Lines from both ends that say how wide a column must be; those in between are like them.
 constexpr int kRigheMisurate = 30;
+
+/// Keeps texts of neighbouring columns apart, also where one ends on the right and the next begins on the left.
+class DistaccoTesti : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* opzione, const QModelIndex& indice) const override
+    {
+        QStyledItemDelegate::initStyleOption(opzione, indice);
+        opzione->text = ' ' + opzione->text + ' ';
+    }
+};
 
 /// The selection of a table as flags.
 std::vector<bool> SceltiDi(const QTableView& vista)
@@ -66,9 +80,8 @@ void AllargaColonna(QTableView& vista, int nColonna)
     for (int i = 0; i < std::min(nRighe, 2 * kRigheMisurate); ++i) {
         const int nRiga = i < kRigheMisurate ? i : nRighe - 1 - (i - kRigheMisurate);
         const QModelIndex indice = vista.model()->index(nRiga, nColonna);
-        const int nSegni = vista.fontMetrics().averageCharWidth();
-        nLarghezza = std::max(nLarghezza,
-                              vista.fontMetrics().horizontalAdvance(indice.data().toString()) + 2 * nSegni);
+        nLarghezza = std::max(nLarghezza, vista.fontMetrics().horizontalAdvance(indice.data().toString()) +
+                                              3 * vista.fontMetrics().averageCharWidth());
     }
     vista.setColumnWidth(nColonna, nLarghezza);
 }
@@ -131,6 +144,10 @@ void Prepara(QTableView& vista, const AspettoElenco& aspetto)
     vista.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     vista.verticalHeader()->setMinimumSectionSize(0);
     vista.verticalHeader()->setDefaultSectionSize(vista.fontMetrics().height() * 5 / 4);
+    vista.setItemDelegate(new DistaccoTesti(&vista));
+    for (int i = 0; i < vista.model()->columnCount(); ++i) {
+        vista.setColumnWidth(i, 0); // they grow from there
+    }
     const int nElastica = aspetto.nElastica < 0 ? vista.model()->columnCount() - 1 : aspetto.nElastica;
     vista.horizontalHeader()->setSectionResizeMode(nElastica, QHeaderView::Stretch);
     vista.horizontalHeader()->setHighlightSections(false);
