@@ -78,13 +78,14 @@ F_PuntiSuEmulatoreVista::F_PuntiSuEmulatoreVista(F_PuntiSuEmulatore& dialogo, Pi
     auto* tutto = new QVBoxLayout(this);
     QFormLayout* modulo = NuovoModulo();
     tutto->addLayout(modulo);
-    legami().collega(dialogo.Text2,
-                     AggiungiRiga(modulo, "Colonne &Emulate", "Text2", NuovaCasella(kCifreColonne)));
+    auto* colonne = AggiungiRiga(modulo, "Colonne &Emulate", "Text2", NuovaCasella(kCifreColonne));
+    legami().collega(dialogo.Text2, colonne);
     tutto->addWidget(m_Foglio, 1);
     AggiungiPulsanti(dialogo, tutto, true);
     DisponiFoglio();
     LegaFoglio();
     LegaCasella();
+    setTabOrder(colonne, m_Casella);
 }
 
 /// The table takes no focus: who clicks a cell writes in the box over it.
@@ -92,6 +93,7 @@ void F_PuntiSuEmulatoreVista::DisponiFoglio()
 {
     Nomina(m_Foglio, "MSFlexGrid1", "Minimo e massimo per punti");
     m_Foglio->setFocusPolicy(Qt::NoFocus);
+    m_Foglio->setTabKeyNavigation(false);
     m_Foglio->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_Foglio->setSelectionMode(QAbstractItemView::NoSelection);
     m_Foglio->verticalHeader()->setDefaultSectionSize(AltezzaRiga(*m_Foglio));

@@ -158,10 +158,13 @@ void VistaNumeri::Disegna(QPainter& pennello, int nNumero) const
     const QRect casella = Casella(nNumero).adjusted(1, 1, -1, -1);
     pennello.fillRect(casella, colore(colori.nSfondo, QPalette::Highlight, QPalette::Base));
 
-    const int nSpessore = bScelto ? 2 : 1;
-    pennello.setPen(QPen(bScelto ? testo : palette().color(gruppo, QPalette::Mid), nSpessore));
-    pennello.drawRect(
-        QRectF(casella).adjusted(nSpessore / 2.0, nSpessore / 2.0, -nSpessore / 2.0, -nSpessore / 2.0));
+    pennello.setPen(palette().color(gruppo, QPalette::Mid));
+    pennello.drawRect(casella.adjusted(0, 0, -1, -1));
+    if (bScelto) {
+        constexpr int kDentro = 2;
+        pennello.setPen(testo);
+        pennello.drawRect(casella.adjusted(kDentro, kDentro, -kDentro - 1, -kDentro - 1));
+    }
 
     QFont carattere = font();
     carattere.setBold(bScelto);
@@ -170,7 +173,8 @@ void VistaNumeri::Disegna(QPainter& pennello, int nNumero) const
     pennello.drawText(casella, Qt::AlignCenter, QString::number(nNumero));
     if (hasFocus() && nNumero == m_nCorrente) {
         pennello.setPen(QPen(testo, 1, Qt::DashLine));
-        pennello.drawRect(casella.adjusted(3, 3, -4, -4));
+        constexpr int kPiuDentro = 4;
+        pennello.drawRect(casella.adjusted(kPiuDentro, kPiuDentro, -kPiuDentro - 1, -kPiuDentro - 1));
     }
 }
 

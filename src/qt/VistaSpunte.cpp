@@ -35,7 +35,7 @@ QCheckBox* VistaSpunte::Casella(std::int32_t nValore) const
     return nPosto < m_aCaselle.size() ? m_aCaselle[nPosto] : nullptr;
 }
 
-/// Binds every box that there is now, and hides those of values that are no more.
+/// Binds every box that there is now; clears and hides those of values that are no more.
 void VistaSpunte::Riallinea()
 {
     for (std::int32_t n = m_Serie.Primo(); n <= m_Serie.Ultimo(); ++n) {
@@ -43,6 +43,7 @@ void VistaSpunte::Riallinea()
     }
     const auto nVive = static_cast<std::size_t>(m_Serie.Ultimo() - m_Serie.Primo() + 1);
     for (std::size_t i = nVive; i < m_aCaselle.size(); ++i) {
+        m_aCaselle[i]->setChecked(false);
         m_aCaselle[i]->hide();
     }
 }
