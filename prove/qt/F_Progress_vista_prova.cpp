@@ -47,10 +47,11 @@ protected:
     }
 
     /// Answers the question that an action brings up.
-    static void Rispondi(bool bSi, const std::function<void()>& azione)
+    static void Rispondi(bool bSi, const std::function<void()>& azione, const QWidget* sopra = nullptr)
     {
         EXPECT_TRUE(Quando<QMessageBox>(
-            [bSi](QMessageBox& box) {
+            [bSi, sopra](QMessageBox& box) {
+                EXPECT_TRUE(sopra == nullptr || box.parentWidget() == sopra) << "starebbe sotto";
                 EXPECT_EQ(box.text(), "Annullare ?");
                 QTest::mouseClick(box.buttons().at(bSi ? 0 : 1), Qt::LeftButton);
             },
@@ -90,7 +91,8 @@ TEST_F(ProgressVista, LAnnullaChiedeEColSiLEsportazioneFinisce)
 TEST_F(ProgressVista, ColNoVaAvanti)
 {
     Esporta([](F_ProgressVista& vista) {
-        Rispondi(false, [&] { Premi(vista, "Annulla"); });
+        Rispondi(
+            false, [&] { Premi(vista, "Annulla"); }, &vista);
         EXPECT_TRUE(vista.isVisible());
     });
     EXPECT_TRUE(m_bTutte);

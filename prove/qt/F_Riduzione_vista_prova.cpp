@@ -96,6 +96,10 @@ TEST_F(RiduzioneVista, IlFileDiLavoroCEGia)
     NellaFinestra([this](F_RiduzioneVista& vista) {
         EXPECT_EQ(Mostrato(vista, "labFile"), Testo(sistema.FileColonne()));
         EXPECT_EQ(Mostrato(vista, "LabColonne"), "21");
+        QAccessibleInterface* letto =
+            QAccessible::queryAccessibleInterface(&Trova<QLabel>(vista, "LabColonne"));
+        EXPECT_EQ(letto->text(QAccessible::Name), "21") << "si legge il valore";
+        EXPECT_EQ(letto->text(QAccessible::Description), "Colonne");
     });
 }
 

@@ -21,6 +21,7 @@ F_ApriCondizioniVista::F_ApriCondizioniVista(F_ApriCondizioni& dialogo, Piattafo
     modulo->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     auto* percorso = new EtichettaPercorso;
     percorso->setObjectName("LabPercorso");
+    percorso->setAccessibleDescription("Cartella");
     legami().collega(dialogo.LabPercorso, percorso);
     QPushButton* sfoglia = NuovoPulsante("Command1", "&Sfoglia…");
     sfoglia->setAccessibleName("Sfoglia le cartelle");

@@ -32,7 +32,8 @@ public:
     /// The answer of the next DialogoApri, which is then not shown: a file that the user has named already.
     void RispondiApri(std::string sFile) { m_sApri = std::move(sFile); }
 
-    /// Over which window the next box stands: the modal one in front, else the padre's.
+    /// Over which window the next box stands: the modal one in front, else one that stays on top, else
+    /// the padre's.
     [[nodiscard]] QWidget* Davanti() const;
 
     eRisposta MostraMessaggio(const Messaggio& messaggio) override;
