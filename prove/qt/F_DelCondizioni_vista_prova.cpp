@@ -10,8 +10,8 @@ namespace ordavel::qt {
 
 namespace {
 
-using prove::Avviso;
-using prove::Premi;
+using prove::Clicca;
+using prove::Scatola;
 using prove::Trova;
 
 class DelCondizioniVista : public prove::SistemaQtProva {
@@ -61,9 +61,9 @@ TEST_F(DelCondizioniVista, SiEliminanoQuelleScelte)
 TEST_F(DelCondizioniVista, SenzaLimitiOAlContrarioLaFinestraResta)
 {
     NellaFinestra([](F_DelCondizioniVista& vista) {
-        EXPECT_EQ(Avviso([&] { Premi(vista, "Conferma"); }), "Impostare i limiti");
+        EXPECT_EQ(Scatola([&] { Clicca(vista, "Conferma"); }), "Impostare i limiti");
         Scegli(vista, "4", "2");
-        EXPECT_EQ(Avviso([&] { Premi(vista, "Conferma"); }), "Parametri incoerenti");
+        EXPECT_EQ(Scatola([&] { Clicca(vista, "Conferma"); }), "Parametri incoerenti");
         EXPECT_TRUE(vista.isVisible());
         QTest::keyClick(&vista, Qt::Key_Escape);
         EXPECT_FALSE(vista.isVisible());

@@ -72,7 +72,7 @@ TEST_F(EffettoCondVista, InvioFaLoStessoEdEscChiude)
 TEST_F(EffettoCondVista, IlPulsanteChiude)
 {
     NellaFinestra([](F_EffettoCondVista& vista, QTableView&) {
-        prove::Premi(vista, "Chiudi");
+        prove::Clicca(vista, "Chiudi");
         EXPECT_FALSE(vista.isVisible());
     });
 }

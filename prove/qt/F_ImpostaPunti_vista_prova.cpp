@@ -11,8 +11,8 @@ namespace ordavel::qt {
 
 namespace {
 
-using prove::Avviso;
-using prove::Premi;
+using prove::Clicca;
+using prove::Scatola;
 using prove::Trova;
 
 class ImpostaPuntiVista : public prove::SistemaQtProva {
@@ -42,7 +42,7 @@ TEST_F(ImpostaPuntiVista, IPuntiSiScrivonoNelleCondizioniScelte)
         Spunta(vista, "ChkRecupero0");
         QTest::keyClicks(&Trova<QComboBox>(vista, "CmbDalla"), "2");
         QTest::keyClicks(&Trova<QComboBox>(vista, "CmbAlla"), "3");
-        Premi(vista, "Conferma");
+        Clicca(vista, "Conferma");
         EXPECT_FALSE(vista.isVisible());
     });
     EXPECT_EQ(Griglia().Riga(1).sPunti, "0-1-2-3-4-5");
@@ -82,7 +82,7 @@ TEST_F(ImpostaPuntiVista, SenzaLimitiLoDiceEConEscNonCambiaNulla)
 {
     NellaFinestra([](F_ImpostaPuntiVista& vista) {
         Spunta(vista, "ChkPunti1");
-        EXPECT_EQ(Avviso([&] { Premi(vista, "Conferma"); }), "Impostare i limiti");
+        EXPECT_EQ(Scatola([&] { Clicca(vista, "Conferma"); }), "Impostare i limiti");
         EXPECT_TRUE(vista.isVisible());
         QTest::keyClick(&vista, Qt::Key_Escape);
         EXPECT_FALSE(vista.isVisible());

@@ -12,9 +12,9 @@ namespace ordavel::qt {
 
 namespace {
 
-using prove::Avviso;
+using prove::Clicca;
 using prove::ConFile;
-using prove::Premi;
+using prove::Scatola;
 using prove::Trova;
 
 class InsColonneVista : public prove::SistemaQtProva {
@@ -25,7 +25,7 @@ protected:
     void ConLeColonne(const std::function<void(F_InsColonneVista&, QTableView&)>& azione)
     {
         Nella<F_InsColonneVista>("PuntiSuColonnaTxt", [&](F_InsColonneVista& vista) {
-            EXPECT_TRUE(ConFile(m_sFile, [&] { Premi(vista, "open"); }));
+            EXPECT_TRUE(ConFile(m_sFile, [&] { Clicca(vista, "open"); }));
             vista.activateWindow();
             EXPECT_TRUE(QTest::qWaitForWindowActive(&vista));
             azione(vista, Trova<QTableView>(vista, "ListView1"));
@@ -65,20 +65,20 @@ TEST_F(InsColonneVista, IPuntiVannoAlleRigheScelteELaConfermaInserisce)
     ConLeColonne([](F_InsColonneVista& vista, QTableView& lista) {
         ScegliRiga(lista, 0);
         ScegliRiga(lista, 2, Qt::ControlModifier);
-        Premi(vista, "punti");
+        Clicca(vista, "punti");
         EXPECT_TRUE(Trova<QWidget>(vista, "PanPunti").isVisible());
         EXPECT_EQ(vista.focusWidget()->objectName(), "ChkPunti0");
         QTest::keyClick(&Trova<QCheckBox>(vista, "ChkPunti2"), Qt::Key_Space);
         QTest::keyClicks(&Trova<QComboBox>(vista, "CmbRecupero"), "4");
         QTest::keyClick(&Trova<QCheckBox>(vista, "ChkRecupero1"), Qt::Key_Space);
-        Premi(vista, "XPButton2");
+        Clicca(vista, "XPButton2");
         EXPECT_FALSE(Trova<QWidget>(vista, "PanPunti").isVisible());
         EXPECT_EQ(Cella(lista, 0, 2), "2");
         EXPECT_EQ(Cella(lista, 1, 2), "");
         EXPECT_EQ(Cella(lista, 2, 3), "1");
         EXPECT_EQ(Cella(lista, 2, 4), "4");
         EXPECT_EQ(lista.selectionModel()->selectedRows().size(), 2) << "la scelta resta";
-        Premi(vista, "Conferma");
+        Clicca(vista, "Conferma");
         EXPECT_FALSE(vista.isVisible());
     });
     EXPECT_EQ(Griglia().Riga(1).sCondizione, "Punti Col.");
@@ -93,9 +93,9 @@ TEST_F(InsColonneVista, LAnnullaDelPannelloNonScriveNulla)
 {
     ConLeColonne([](F_InsColonneVista& vista, QTableView& lista) {
         lista.selectAll();
-        Premi(vista, "punti");
+        Clicca(vista, "punti");
         QTest::keyClick(&Trova<QCheckBox>(vista, "ChkPunti2"), Qt::Key_Space);
-        Premi(vista, "XPButton3");
+        Clicca(vista, "XPButton3");
         EXPECT_FALSE(Trova<QWidget>(vista, "PanPunti").isVisible());
         EXPECT_EQ(Cella(lista, 0, 2), "");
     });
@@ -112,9 +112,9 @@ TEST_F(InsColonneVista, IlTastoCancElimina)
         EXPECT_TRUE(lista.selectionModel()->selectedRows().isEmpty());
         lista.setFocus();
         QTest::keyClick(&lista, Qt::Key_A, Qt::ControlModifier);
-        Premi(vista, "delete");
+        Clicca(vista, "delete");
         EXPECT_EQ(lista.model()->rowCount(), 0);
-        Premi(vista, "Conferma");
+        Clicca(vista, "Conferma");
         EXPECT_TRUE(vista.isVisible()) << "senza righe non dice nulla e resta";
         QTest::keyClick(&vista, Qt::Key_Escape);
         EXPECT_FALSE(vista.isVisible());

@@ -85,7 +85,7 @@ TEST_F(NavigaSistemaVista, RifattoMostraAncoraQuelCheSiEraAperto)
 TEST_F(NavigaSistemaVista, ChiusaSiRiapre)
 {
     F_NavigaSistemaVista& vista = Apri();
-    prove::Premi(vista, "Chiudi");
+    prove::Clicca(vista, "Chiudi");
     EXPECT_FALSE(vista.isVisible());
     EXPECT_TRUE(Apri().isVisible());
     QTest::keyClick(&Apri(), Qt::Key_Escape);

@@ -13,7 +13,7 @@ namespace ordavel::qt {
 
 namespace {
 
-using prove::Premi;
+using prove::Clicca;
 using prove::Quando;
 using prove::Trova;
 
@@ -82,7 +82,7 @@ TEST_F(ProgressVista, StaDavantiEDiceAChePuntoE)
 
 TEST_F(ProgressVista, LAnnullaChiedeEColSiLEsportazioneFinisce)
 {
-    Esporta([](F_ProgressVista& vista) { Rispondi(true, [&] { Premi(vista, "Annulla"); }); });
+    Esporta([](F_ProgressVista& vista) { Rispondi(true, [&] { Clicca(vista, "Annulla"); }); });
     EXPECT_FALSE(m_bTutte);
     EXPECT_GT(std::filesystem::file_size(m_sTesto), 0U);
     EXPECT_LT(std::filesystem::file_size(m_sTesto), kByteTesto);
@@ -92,7 +92,7 @@ TEST_F(ProgressVista, ColNoVaAvanti)
 {
     Esporta([](F_ProgressVista& vista) {
         Rispondi(
-            false, [&] { Premi(vista, "Annulla"); }, &vista);
+            false, [&] { Clicca(vista, "Annulla"); }, &vista);
         EXPECT_TRUE(vista.isVisible());
     });
     EXPECT_TRUE(m_bTutte);

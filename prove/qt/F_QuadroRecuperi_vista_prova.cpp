@@ -10,8 +10,8 @@ namespace ordavel::qt {
 
 namespace {
 
+using prove::Clicca;
 using prove::ExpectNominati;
-using prove::Premi;
 using prove::Trova;
 
 class QuadroRecuperiVista : public prove::SistemaQtProva {
@@ -55,7 +55,7 @@ TEST_F(QuadroRecuperiVista, QuelCheSiScriveESiConfermaEIlQuadro)
         QTest::keyClicks(&Trova<QLineEdit>(vista, "TxtMin2"), "0a0-3");
         QTest::keyClicks(&Trova<QLineEdit>(vista, "TxtMax2"), "5");
         QTest::keyClicks(&Trova<QLineEdit>(vista, "TxtMin20"), "1");
-        Premi(vista, "Conferma");
+        Clicca(vista, "Conferma");
         EXPECT_FALSE(vista.isVisible());
     });
     ASSERT_EQ(Quadro().size(), 20U);
@@ -73,7 +73,7 @@ TEST_F(QuadroRecuperiVista, ConEscEConChiudiNonCambiaNulla)
     });
     NelQuadro([](F_QuadroRecuperiVista& vista) {
         QTest::keyClicks(&Trova<QLineEdit>(vista, "TxtMin2"), "1");
-        Premi(vista, "Chiudi");
+        Clicca(vista, "Chiudi");
         EXPECT_FALSE(vista.isVisible());
     });
     EXPECT_TRUE(Quadro().empty());

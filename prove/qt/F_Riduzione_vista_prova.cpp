@@ -13,8 +13,8 @@ namespace ordavel::qt {
 
 namespace {
 
+using prove::Clicca;
 using prove::ConFile;
-using prove::Premi;
 using prove::Trova;
 
 class RiduzioneVista : public prove::SistemaQtProva {
@@ -53,7 +53,7 @@ protected:
             }
         });
         orologio.start(0);
-        Premi(vista, "XPButton10");
+        Clicca(vista, "XPButton10");
         piattaforma.eventi = {};
         EXPECT_GE(nEventi, 2);
         return aBox;
@@ -69,7 +69,7 @@ QString Mostrato(QWidget& vista, const char* sEtichetta)
 
 void ApriIlFile(F_RiduzioneVista& vista, const std::string& sFile)
 {
-    EXPECT_TRUE(ConFile(sFile, [&] { Premi(vista, "Command1"); }));
+    EXPECT_TRUE(ConFile(sFile, [&] { Clicca(vista, "Command1"); }));
 }
 
 } // namespace
@@ -137,7 +137,7 @@ TEST_F(RiduzioneVista, LoStopFinisceLaCorsaEChiude)
 {
     NellaFinestra([this](F_RiduzioneVista& vista) {
         ApriIlFile(vista, m_sFile);
-        const QStringList aBox = Esegui(vista, [&] { Premi(vista, "XPButton10"); });
+        const QStringList aBox = Esegui(vista, [&] { Clicca(vista, "XPButton10"); });
         ASSERT_EQ(aBox.size(), 1) << Testo(aBox.join('|'));
         EXPECT_TRUE(aBox[0].startsWith("Fine"));
         EXPECT_FALSE(vista.isVisible());

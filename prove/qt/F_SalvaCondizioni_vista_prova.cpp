@@ -13,9 +13,9 @@ namespace ordavel::qt {
 
 namespace {
 
-using prove::Avviso;
+using prove::Clicca;
 using prove::ConFile;
-using prove::Premi;
+using prove::Scatola;
 using prove::Trova;
 
 class FileCondizioniVista : public prove::SistemaQtProva {
@@ -32,7 +32,7 @@ protected:
         Nella<F_SalvaCondizioniVista>("SalvaCondizioni", [&](F_SalvaCondizioniVista& vista) {
             Trova<QComboBox>(vista, "CmbCondInizio").setCurrentIndex(1);
             Trova<QComboBox>(vista, "CmbCondFine").setCurrentIndex(2);
-            EXPECT_TRUE(ConFile(m_sFile, [&] { Premi(vista, "Conferma"); }));
+            EXPECT_TRUE(ConFile(m_sFile, [&] { Clicca(vista, "Conferma"); }));
             EXPECT_FALSE(vista.isVisible());
         });
     }
@@ -70,14 +70,14 @@ TEST_F(FileCondizioniVista, LAnteprimaSegueLaScelta)
 TEST_F(FileCondizioniVista, SenzaCondizioniLoDice)
 {
     Nella<F_SalvaCondizioniVista>("SalvaCondizioni", [](F_SalvaCondizioniVista& vista) {
-        EXPECT_EQ(Avviso([&] { Premi(vista, "Conferma"); }), "Impostare le condizioni da salvare");
+        EXPECT_EQ(Scatola([&] { Clicca(vista, "Conferma"); }), "Impostare le condizioni da salvare");
         EXPECT_TRUE(vista.isVisible());
         QTest::keyClick(&vista, Qt::Key_Escape);
         EXPECT_FALSE(vista.isVisible());
     });
     Nella<F_ApriCondizioniVista>("InsCondizioni", [](F_ApriCondizioniVista& vista) {
-        EXPECT_EQ(Avviso([&] { Premi(vista, "Conferma"); }), "Impostare le condizioni da salvare");
-        Premi(vista, "Chiudi");
+        EXPECT_EQ(Scatola([&] { Clicca(vista, "Conferma"); }), "Impostare le condizioni da salvare");
+        Clicca(vista, "Chiudi");
         EXPECT_FALSE(vista.isVisible());
     });
     EXPECT_TRUE(Griglia().Vuota(5));
@@ -93,7 +93,7 @@ TEST_F(FileCondizioniVista, SenzaUnNomeLaFinestraResta)
                 EXPECT_EQ(finestra.windowTitle(), "Apri file");
                 finestra.reject();
             },
-            [&] { Premi(vista, "Conferma"); }));
+            [&] { Clicca(vista, "Conferma"); }));
         EXPECT_TRUE(vista.isVisible());
     });
 }
@@ -111,7 +111,7 @@ TEST_F(FileCondizioniVista, QuelCheSiSalvaSiRiapreInFondo)
         auto& anteprima = Trova<QTableView>(vista, "GrdCond");
         ASSERT_EQ(anteprima.model()->columnCount(), 2);
         EXPECT_EQ(Cella(anteprima, 0, 0), "Peso");
-        Premi(vista, "Conferma");
+        Clicca(vista, "Conferma");
         EXPECT_FALSE(vista.isVisible());
     });
     EXPECT_EQ(Griglia().Riga(5), Griglia().Riga(2));
@@ -123,7 +123,7 @@ TEST_F(FileCondizioniVista, UnAltraCartellaHaAltriFile)
 {
     Salva();
     Nella<F_ApriCondizioniVista>("InsCondizioni", [&](F_ApriCondizioniVista& vista) {
-        EXPECT_TRUE(ConFile(cartella / "temp", [&] { Premi(vista, "Command1"); }));
+        EXPECT_TRUE(ConFile(cartella / "temp", [&] { Clicca(vista, "Command1"); }));
         EXPECT_EQ(Trova<QLabel>(vista, "LabPercorso").text(), Testo(cartella / "temp/"));
         EXPECT_EQ(Trova<QComboBox>(vista, "CmbCondizioni").count(), 0);
     });

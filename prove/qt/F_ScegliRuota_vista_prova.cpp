@@ -11,7 +11,7 @@ namespace ordavel::qt {
 
 namespace {
 
-using prove::Premi;
+using prove::Clicca;
 using prove::Quando;
 using prove::Trova;
 
@@ -58,7 +58,7 @@ TEST_F(ScegliRuotaVista, LoSviluppoLaChiede)
         sistema.SelezionaNumero(n, true);
     }
     QStringList aBox;
-    EXPECT_TRUE(Quando<F_ScegliRuotaVista>([](F_ScegliRuotaVista& vista) { Premi(vista, "Conferma"); },
+    EXPECT_TRUE(Quando<F_ScegliRuotaVista>([](F_ScegliRuotaVista& vista) { Clicca(vista, "Conferma"); },
                                            [&] {
                                                QTimer orologio;
                                                QObject::connect(&orologio, &QTimer::timeout, &orologio, [&] {

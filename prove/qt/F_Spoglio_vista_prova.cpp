@@ -13,8 +13,8 @@ namespace ordavel::qt {
 
 namespace {
 
-using prove::Avviso;
-using prove::Premi;
+using prove::Clicca;
+using prove::Scatola;
 using prove::Trova;
 
 class SpoglioVista : public prove::SistemaQtProva {
@@ -134,10 +134,10 @@ TEST_F(SpoglioVista, SiOrdinaAncheSenzaMouse)
 TEST_F(SpoglioVista, UnaColonnaErrataSiDice)
 {
     NellaFinestra([](F_SpoglioVista& vista) {
-        EXPECT_EQ(Avviso([&] { Premi(vista, "XPButton10"); }), "Inserire numeri da 1 a 90");
-        EXPECT_EQ(Avviso([&] { Verifica(vista, "1.91"); }), "Inserire numeri da 1 a 90");
+        EXPECT_EQ(Scatola([&] { Clicca(vista, "XPButton10"); }), "Inserire numeri da 1 a 90");
+        EXPECT_EQ(Scatola([&] { Verifica(vista, "1.91"); }), "Inserire numeri da 1 a 90");
         EXPECT_EQ(Trova<QTableView>(vista, "ListView1").model()->rowCount(), 0);
-        Premi(vista, "XPButton11");
+        Clicca(vista, "XPButton11");
         EXPECT_FALSE(vista.isVisible());
     });
 }

@@ -88,7 +88,7 @@ TEST_F(VisualizzaColonneVista, InFondoLeRigheSonoMeno)
         EXPECT_EQ(Cella(lista, 0, 1), "05 06 07 08 09");
         QTest::keyClick(&cursore, Qt::Key_PageUp);
         EXPECT_EQ(lista.model()->rowCount(), 21);
-        prove::Premi(vista, "Chiudi");
+        prove::Clicca(vista, "Chiudi");
         EXPECT_FALSE(vista.isVisible());
     });
 }

@@ -5,12 +5,11 @@
 #include "ordavel/Ordavel.hpp"
 
 #include "comune/CartellaProva.hpp"
+#include "qt/DialoghiProva.hpp"
 #include "qt/Legami.hpp"
 #include "qt/PiattaformaQt.hpp"
 
-#include <QAccessible>
 #include <QApplication>
-#include <QDialog>
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QLineEdit>
@@ -60,23 +59,8 @@ bool Quando(const std::function<void(Finestra&)>& azione, const std::function<vo
     return bVista;
 }
 
-/// A widget by its name; the test ends without it.
-template <typename W> W& Trova(QWidget& finestra, const char* sNome)
-{
-    auto* widget = finestra.findChild<W*>(sNome);
-    if (widget == nullptr) {
-        throw std::runtime_error(std::string("manca ") + sNome);
-    }
-    return *widget;
-}
-
-inline void Premi(QWidget& finestra, const char* sPulsante)
-{
-    QTest::mouseClick(&Trova<QWidget>(finestra, sPulsante), Qt::LeftButton);
-}
-
 /// The text of the box that an action brings up, which is then closed; empty when there is none.
-inline QString Avviso(const std::function<void()>& azione)
+inline QString Scatola(const std::function<void()>& azione)
 {
     QString sTesto;
     Quando<QMessageBox>([&](QMessageBox& finestra) { sTesto = finestra.text(); }, azione);
@@ -111,19 +95,9 @@ inline std::vector<std::string> GiroTab(QWidget& finestra)
 /// Everything that takes keys says what it is.
 inline void ExpectNominati(QWidget& finestra)
 {
-    int nTrovati = 0;
-    for (QWidget* widget : finestra.findChildren<QWidget*>()) {
-        if ((widget->focusPolicy() & Qt::TabFocus) == 0 || widget->focusProxy() != nullptr) {
-            continue;
-        }
-        ++nTrovati;
-        QAccessibleInterface* letto = QAccessible::queryAccessibleInterface(widget);
-        ASSERT_NE(letto, nullptr);
-        EXPECT_FALSE(letto->text(QAccessible::Name).isEmpty())
-            << Testo(widget->objectName()) << " " << widget->metaObject()->className();
-        EXPECT_FALSE(widget->objectName().isEmpty()) << widget->metaObject()->className();
-    }
-    EXPECT_GT(nTrovati, 0);
+    EXPECT_FALSE(DaTastiera(finestra).isEmpty());
+    EXPECT_EQ(SenzaNome(finestra), QStringList());
+    EXPECT_EQ(MnemonicheDoppie(finestra), QString());
 }
 
 /// A desktop whose clock always says that it is time, and which does something whenever events run.
@@ -176,7 +150,7 @@ protected:
         for (std::int16_t n = 1; n <= nUltimo; ++n) {
             sistema.SelezionaNumero(n, true);
         }
-        EXPECT_TRUE(Avviso([this] { EXPECT_TRUE(sistema.GestSviluppo()); }).startsWith("Fine sviluppo"));
+        EXPECT_TRUE(Scatola([this] { EXPECT_TRUE(sistema.GestSviluppo()); }).startsWith("Fine sviluppo"));
     }
 
     /// Opens a window by a key of the toolbar, or of its menus, and does something in it.

@@ -139,8 +139,9 @@ void AnteprimaCondizioni::Mostra(const GrigliaCondizioni& griglia)
 
 QSize AnteprimaCondizioni::sizeHint() const
 {
-    const int nAltezza = horizontalHeader()->sizeHint().height() + verticalHeader()->length() +
-                         horizontalScrollBar()->sizeHint().height();
+    // Without conditions the heading says nothing about its height.
+    const int nTestata = std::max(horizontalHeader()->sizeHint().height(), fontMetrics().height() * 3 / 2);
+    const int nAltezza = nTestata + verticalHeader()->length() + horizontalScrollBar()->sizeHint().height();
     const int nLarghezza =
         verticalHeader()->sizeHint().width() + kColonneInVista * horizontalHeader()->defaultSectionSize();
     return {nLarghezza + 2 * frameWidth(), nAltezza + 2 * frameWidth()};

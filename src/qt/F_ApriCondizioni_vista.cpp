@@ -40,6 +40,7 @@ F_ApriCondizioniVista::F_ApriCondizioniVista(F_ApriCondizioni& dialogo, Piattafo
                 [&dialogo, anteprima] { anteprima->Mostra(dialogo.GrdCond); });
     AggiungiPulsanti(dialogo, tutto);
     file->setFocus();
+    resize(sizeHint()); // the whole preview, also on a small screen
 }
 
 } // namespace ordavel::qt
