@@ -68,6 +68,7 @@ TEST_F(InsColonneVista, IPuntiVannoAlleRigheScelteELaConfermaInserisce)
         Clicca(vista, "punti");
         EXPECT_TRUE(Trova<QWidget>(vista, "PanPunti").isVisible());
         EXPECT_EQ(vista.focusWidget()->objectName(), "ChkPunti0");
+        prove::ExpectNominati(vista);
         QTest::keyClick(&Trova<QCheckBox>(vista, "ChkPunti2"), Qt::Key_Space);
         QTest::keyClicks(&Trova<QComboBox>(vista, "CmbRecupero"), "4");
         QTest::keyClick(&Trova<QCheckBox>(vista, "ChkRecupero1"), Qt::Key_Space);

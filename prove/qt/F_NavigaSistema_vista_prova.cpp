@@ -4,6 +4,8 @@
 
 #include "qt/SistemaQtProva.hpp"
 
+#include <QAbstractItemDelegate>
+#include <QStyleOptionViewItem>
 #include <QTreeWidget>
 
 namespace ordavel::qt {
@@ -27,11 +29,14 @@ protected:
         for (QWidget* finestra : QApplication::topLevelWidgets()) {
             auto* vista = dynamic_cast<F_NavigaSistemaVista*>(finestra);
             if (vista != nullptr && vista->isVisible()) {
+                m_Vista = vista;
                 return *vista;
             }
         }
         throw std::runtime_error("nessuna finestra");
     }
+
+    F_NavigaSistemaVista* m_Vista = nullptr; ///< the one that was opened last
 };
 
 QTreeWidget& AlberoDi(QWidget& vista)
@@ -80,6 +85,26 @@ TEST_F(NavigaSistemaVista, RifattoMostraAncoraQuelCheSiEraAperto)
     QTreeWidgetItem* link = albero.topLevelItem(0)->child(1);
     EXPECT_TRUE(QTest::qWaitFor([&] { return link->isExpanded(); }));
     EXPECT_EQ(albero.currentItem(), link->child(0));
+}
+
+TEST_F(NavigaSistemaVista, UnLinkSenzaInizioSiDiceEIlRestoSiVede)
+{
+    Griglia().Riga(2).sCondizione = "LinkClose";
+    EXPECT_TRUE(prove::Scatola([this] { Apri(); }).startsWith("91- "));
+    const QTreeWidgetItem* radice = AlberoDi(*m_Vista).topLevelItem(0);
+    EXPECT_EQ(radice->childCount(), 2) << "fino a lui";
+    EXPECT_FALSE(radice->isExpanded());
+}
+
+TEST_F(NavigaSistemaVista, IParametriStannoInUnaRiga)
+{
+    QTreeWidget& albero = AlberoDi(Apri());
+    Griglia().Riga(4).sParametri = "L\r\ni";
+    sistema.Toolbar2_ButtonClick("Naviga");
+    const QModelIndex chiude =
+        albero.model()->index(1, 0, albero.model()->index(1, 0, albero.model()->index(0, 0)));
+    EXPECT_EQ(albero.itemDelegate()->sizeHint({}, chiude).height(),
+              albero.itemDelegate()->sizeHint({}, albero.model()->index(0, 0)).height());
 }
 
 TEST_F(NavigaSistemaVista, ChiusaSiRiapre)

@@ -34,13 +34,13 @@ protected:
         Nella<F_RiduzioneVista>("Riduzione", azione);
     }
 
-    /// Runs with something done in the middle of it.
+    /// Runs with something done at its second look at events: the first is in front of the run, the others in it.
     /// Gives    the texts of the boxes
-    QStringList Esegui(F_RiduzioneVista& vista, const std::function<void()>& durante)
+    QStringList Esegui(F_RiduzioneVista& vista, const std::function<void()>& durante, int nQuando = 2)
     {
         int nEventi = 0;
         piattaforma.eventi = [&] {
-            if (++nEventi == 2) {
+            if (++nEventi == nQuando) {
                 durante();
             }
         };
@@ -143,6 +143,29 @@ TEST_F(RiduzioneVista, LoStopFinisceLaCorsaEChiude)
         EXPECT_FALSE(vista.isVisible());
     });
     EXPECT_TRUE(std::filesystem::exists(cartella / "salvate/prova_Rid_N-1.col"));
+}
+
+TEST_F(RiduzioneVista, ChiusaPrimaDellaCorsaLaCorsaSiFa)
+{
+    NellaFinestra([this](F_RiduzioneVista& vista) {
+        ApriIlFile(vista, m_sFile);
+        const QStringList aBox = Esegui(
+            vista, [&] { EXPECT_TRUE(vista.close()); }, 1);
+        EXPECT_EQ(aBox.size(), 1);
+        EXPECT_FALSE(vista.isVisible());
+    });
+    EXPECT_TRUE(std::filesystem::exists(cartella / "salvate/prova_Rid_N-1.col"));
+}
+
+TEST_F(RiduzioneVista, UnFileCheNonCePiuSiDiceEIComandiTornano)
+{
+    NellaFinestra([this](F_RiduzioneVista& vista) {
+        ApriIlFile(vista, m_sFile);
+        std::filesystem::remove(m_sFile);
+        EXPECT_TRUE(prove::Scatola([&] { Clicca(vista, "XPButton10"); }).startsWith("53- "));
+        EXPECT_TRUE(Trova<QPushButton>(vista, "XPButton11").isEnabled());
+        EXPECT_EQ(Trova<QPushButton>(vista, "XPButton10").text(), "&ESEGUI");
+    });
 }
 
 TEST_F(RiduzioneVista, ConEsternoIlTempoPortaLaPercentuale)
