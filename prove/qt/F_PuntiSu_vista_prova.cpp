@@ -169,7 +169,7 @@ TEST_P(FPuntiSuVista, LaModificaMostraGliStessiValori)
     });
     Modifica(1, [&](VistaDialogo& vista) {
         EXPECT_EQ(Mostrato(vista), prima);
-        MnemonicaChiude(vista, Qt::Key_C);
+        Clicca(vista, "Conferma");
     });
     EXPECT_EQ(Riga(1), Attese(GetParam(), true));
     EXPECT_TRUE(sistema.GetGridCond().Vuota(2));
@@ -303,9 +303,9 @@ TEST_F(FPuntiSuVistaCasi, IlVorticeNonHaLoZero)
 TEST_F(FPuntiSuVistaCasi, ILimitiSiVedonoESiLeggono)
 {
     Apri(peso, [](VistaDialogo& vista) {
-        EXPECT_EQ(Trova<QLabel>(vista, "LabMin").text(), "(limite 15)");
-        EXPECT_EQ(Trova<QLabel>(vista, "LabMax").text(), "(limite 90)");
-        EXPECT_EQ(Trova(vista, "TxtPunti1").accessibleDescription(), "(limite 90)");
+        EXPECT_EQ(Trova<QLabel>(vista, "LabMin").text(), "15");
+        EXPECT_EQ(Trova<QLabel>(vista, "LabMax").text(), "90");
+        EXPECT_EQ(Trova(vista, "TxtPunti1").accessibleDescription(), "limite 90");
     });
     sistema.PoniClasse(6);
     for (std::int16_t n = 6; n <= 20; ++n) {

@@ -2,11 +2,11 @@
 
 #include "qt/Disposizione.hpp"
 
+#include <QAbstractButton>
 #include <QBoxLayout>
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QLabel>
 #include <QLineEdit>
 
 namespace ordavel::qt {
@@ -66,6 +66,14 @@ QLineEdit* NuovaCasella(int nCifre)
     constexpr int kMargine = 3; // digits' widths for frame, margins and cursor
     casella->setFixedWidth(LarghezzaCifre(*casella, nCifre + kMargine));
     return casella;
+}
+
+void PareggiaDueCifre(QAbstractButton* bottone)
+{
+    const QString sTesto = bottone->text();
+    bottone->setText("00");
+    bottone->setMinimumWidth(bottone->sizeHint().width());
+    bottone->setText(sTesto);
 }
 
 QLabel* NuovaEtichetta(const QString& sTesto, QWidget* campo)

@@ -10,14 +10,15 @@
 #pragma once
 
 #include <QFormLayout>
+#include <QLabel>
 #include <QString>
 
 #include <initializer_list>
 
+class QAbstractButton;
 class QBoxLayout;
 class QGridLayout;
 class QGroupBox;
-class QLabel;
 class QLayout;
 class QLineEdit;
 class QWidget;
@@ -45,6 +46,9 @@ void Nomina(QWidget* widget, const QString& sNome, const QString& sLetto);
 
 /// A box for so many digits, no wider.
 [[nodiscard]] QLineEdit* NuovaCasella(int nCifre);
+
+/// Gives a box with a number beside it room for two digits, so that boxes below each other stand in columns.
+void PareggiaDueCifre(QAbstractButton* bottone);
 
 /// A label for a field, with its mnemonic; clicks and keys go to the field. The field is named after it, too, unless
 /// it has a name already.

@@ -109,6 +109,7 @@ QLayout* F_PuntiSuVista::Posizioni()
     for (const std::string& sVoce : m_Logica.ObCaselle.Voci.Valore()) {
         auto* bottone = new QRadioButton(Testo(sVoce));
         Nomina(bottone, "ObCaselle" + Testo(sVoce), "Casella " + Testo(sVoce));
+        PareggiaDueCifre(bottone);
         gruppo->addButton(bottone, nPosto);
         griglia->addWidget(bottone, nPosto / VistaSpunte::kPerRiga, nPosto % VistaSpunte::kPerRiga);
         ++nPosto;
@@ -164,15 +165,18 @@ QLineEdit* F_PuntiSuVista::NuovoEstremo(CasellaTesto& casella, const QString& sN
 /// A box with the limit that is shown beside it; who cannot see it hears it with the box.
 QLayout* F_PuntiSuVista::ConLimite(QLineEdit* estremo, Etichetta& limite, const QString& sNome)
 {
+    auto* parola = new QLabel;
     auto* valore = new QLabel;
     valore->setObjectName(sNome);
     legami().collega(static_cast<Controllo&>(limite), valore);
-    legami().Segui(limite.Testo, valore, [valore, estremo](const std::string& s) {
-        valore->setText(s.empty() ? QString() : "(limite " + Testo(s) + ')');
-        estremo->setAccessibleDescription(valore->text());
+    legami().Segui(limite.Testo, valore, [=](const std::string& s) {
+        parola->setText(s.empty() ? QString() : QStringLiteral("limite"));
+        valore->setText(Testo(s));
+        estremo->setAccessibleDescription((parola->text() + ' ' + valore->text()).trimmed());
     });
     auto* riga = new QHBoxLayout;
     riga->addWidget(estremo);
+    riga->addWidget(parola);
     riga->addWidget(valore);
     return riga;
 }

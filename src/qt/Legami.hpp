@@ -99,18 +99,22 @@ public:
     template <typename Mittente, typename Segnale, typename Azione>
     void Al(Mittente* mittente, Segnale segnale, Azione azione)
     {
-        connect(mittente, segnale, this, [this, azione](auto... aArgomenti) {
-            Protetto([&] {
-                if constexpr (std::is_invocable_v<Azione, decltype(aArgomenti)...>) {
-                    azione(aArgomenti...);
-                } else {
-                    azione();
-                }
-            });
+        connect(mittente, segnale, this, [this, azione](auto... aArgomenti) -> void {
+            Protetto([&] { Chiama(azione, aArgomenti...); });
         });
     }
 
 private:
+    template <typename Azione, typename... Argomenti>
+    static void Chiama(const Azione& azione, Argomenti... aArgomenti)
+    {
+        if constexpr (std::is_invocable_v<const Azione&, Argomenti...>) {
+            azione(aArgomenti...);
+        } else {
+            azione();
+        }
+    }
+
     Segnalatore& m_Segnalatore;
     std::string m_sOrigine;
     bool m_bTagliati = false;

@@ -65,6 +65,7 @@ QCheckBox* VistaSpunte::NuovaSpunta(std::int32_t nValore)
     const QString sValore = QString::number(nValore);
     auto* casella = new QCheckBox(sValore, this);
     Nomina(casella, objectName() + sValore, m_sLetto + ' ' + sValore);
+    PareggiaDueCifre(casella);
     const auto nPosto = static_cast<int>(m_aCaselle.size());
     m_Griglia->addWidget(casella, nPosto / kPerRiga, nPosto % kPerRiga);
     m_aCaselle.push_back(casella);
