@@ -207,7 +207,7 @@ protected:
     }
 
     /// Opens the dialog of a kind by its button or its entry of the menu: the one place where that is done.
-    void Premi(TipoCondizione tipo) { widget.findChild<QAction*>(Testo(TrovaTipo(tipo)->sMenu))->trigger(); }
+    void Premi(TipoCondizione tipo) { faccia.findChild<QAction*>(Testo(TrovaTipo(tipo)->sMenu))->trigger(); }
 
     /// Opens a window and does something in it. One that is still open afterwards is closed by Esc.
     static void Dentro(const std::function<void()>& apre, const Azione& azione)
@@ -246,8 +246,8 @@ protected:
     [[nodiscard]] const Condizione& Riga(std::int32_t nRiga) { return sistema.GetGridCond().Riga(nRiga); }
 
     PiattaformaQt piattaforma{nullptr}; ///< for windows of the tests' own
-    OrdavelWidget widget;
-    Ordavel& sistema = widget.componente();
+    OrdavelWidget faccia;
+    Ordavel& sistema = faccia.componente();
 
 private:
     /// A box that nobody waits for must not hold the tests up; what fails here must not cross the event loop.
