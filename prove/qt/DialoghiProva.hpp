@@ -3,6 +3,7 @@
 #pragma once
 
 #include "ordavel/Ordavel.hpp"
+#include "ordavel/OrdavelWidget.hpp"
 
 #include "condizioni/ModCatalogo.hpp"
 #include "qt/Legami.hpp"
@@ -11,6 +12,7 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QAction>
 #include <QApplication>
 #include <QButtonGroup>
 #include <QComboBox>
@@ -204,16 +206,8 @@ protected:
         }
     }
 
-    /// Opens the dialog of a kind as a user does: the one place where that is done.
-    void Premi(TipoCondizione tipo)
-    {
-        const std::string_view sChiave = TrovaTipo(tipo)->sMenu;
-        if (tipo == TipoCondizione::linkClose) {
-            sistema.Toolbar2_ButtonClick(sChiave);
-        } else {
-            sistema.Toolbar2_ButtonMenuClick(sChiave);
-        }
-    }
+    /// Opens the dialog of a kind by its button or its entry of the menu: the one place where that is done.
+    void Premi(TipoCondizione tipo) { widget.findChild<QAction*>(Testo(TrovaTipo(tipo)->sMenu))->trigger(); }
 
     /// Opens a window and does something in it. One that is still open afterwards is closed by Esc.
     static void Dentro(const std::function<void()>& apre, const Azione& azione)
@@ -251,8 +245,9 @@ protected:
 
     [[nodiscard]] const Condizione& Riga(std::int32_t nRiga) { return sistema.GetGridCond().Riga(nRiga); }
 
-    PiattaformaQt piattaforma{nullptr};
-    Ordavel sistema{piattaforma};
+    PiattaformaQt piattaforma{nullptr}; ///< for windows of the tests' own
+    OrdavelWidget widget;
+    Ordavel& sistema = widget.componente();
 
 private:
     /// A box that nobody waits for must not hold the tests up; what fails here must not cross the event loop.

@@ -97,6 +97,20 @@ TEST_F(LegamiProva, AbilitatoEVisibileSiVedono)
     EXPECT_FALSE(widget->isEnabled());
 }
 
+TEST_F(LegamiProva, NascostoPrimaDiAvereUnPadreRestaNascosto)
+{
+    auto* widget = new QCheckBox;
+    Spunta spunta;
+    spunta.Visibile.Poni(false);
+    legami.collega(spunta, widget);
+    QWidget padre;
+    widget->setParent(&padre);
+    padre.show();
+    EXPECT_FALSE(widget->isVisible());
+    spunta.Visibile.Poni(true);
+    EXPECT_TRUE(widget->isVisible());
+}
+
 TEST_F(LegamiProva, UnWidgetSenzaPadreNonDiventaUnaFinestra)
 {
     Caso<Spunta, QCheckBox> caso;

@@ -110,6 +110,8 @@ AnteprimaCondizioni::AnteprimaCondizioni(QWidget* padre) : QTableView(padre), m_
     setEditTriggers(NoEditTriggers);
     setTabKeyNavigation(false);
     setCornerButtonEnabled(false);
+    horizontalHeader()->setHighlightSections(false);
+    verticalHeader()->setHighlightSections(false);
     setHorizontalScrollMode(ScrollPerPixel);
     setVerticalScrollMode(ScrollPerPixel);
     const QFontMetrics lettere(CarattereCelle(false));
@@ -130,15 +132,16 @@ void AnteprimaCondizioni::Mostra(const GrigliaCondizioni& griglia)
     m_nRevisione = griglia.Revisione();
     m_Modello.Mostra(griglia);
     if (m_Modello.columnCount() > 0) {
-        setCurrentIndex(m_Modello.index(0, 0));
+        selectionModel()->setCurrentIndex(m_Modello.index(0, 0), QItemSelectionModel::NoUpdate);
     }
     scrollToTop();
 }
 
 QSize AnteprimaCondizioni::sizeHint() const
 {
-    const int nAltezza = horizontalHeader()->sizeHint().height() + verticalHeader()->length() +
-                         horizontalScrollBar()->sizeHint().height();
+    // Without conditions the heading says nothing about its height.
+    const int nTestata = std::max(horizontalHeader()->sizeHint().height(), fontMetrics().height() * 3 / 2);
+    const int nAltezza = nTestata + verticalHeader()->length() + horizontalScrollBar()->sizeHint().height();
     const int nLarghezza =
         verticalHeader()->sizeHint().width() + kColonneInVista * horizontalHeader()->defaultSectionSize();
     return {nLarghezza + 2 * frameWidth(), nAltezza + 2 * frameWidth()};

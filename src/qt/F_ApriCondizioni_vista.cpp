@@ -21,6 +21,7 @@ F_ApriCondizioniVista::F_ApriCondizioniVista(F_ApriCondizioni& dialogo, Piattafo
     modulo->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     auto* percorso = new EtichettaPercorso;
     percorso->setObjectName("LabPercorso");
+    percorso->setAccessibleDescription("Cartella");
     legami().collega(dialogo.LabPercorso, percorso);
     QPushButton* sfoglia = NuovoPulsante("Command1", "&Sfoglia…");
     sfoglia->setAccessibleName("Sfoglia le cartelle");
@@ -38,6 +39,8 @@ F_ApriCondizioniVista::F_ApriCondizioniVista(F_ApriCondizioni& dialogo, Piattafo
     legami().Al(file, qOverload<int>(&QComboBox::currentIndexChanged),
                 [&dialogo, anteprima] { anteprima->Mostra(dialogo.GrdCond); });
     AggiungiPulsanti(dialogo, tutto);
+    file->setFocus();
+    resize(sizeHint()); // the whole preview, also on a small screen
 }
 
 } // namespace ordavel::qt

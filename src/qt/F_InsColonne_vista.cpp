@@ -24,6 +24,7 @@ F_InsColonneVista::F_InsColonneVista(F_InsColonne& dialogo, PiattaformaQt& piatt
     AggiungiElenco(dialogo, tutto);
     AggiungiPulsanti(dialogo, tutto);
     const int nSegno = fontMetrics().averageCharWidth();
+    findChild<QPushButton*>("open")->setFocus();
     resize(95 * nSegno, 75 * nSegno);
 }
 

@@ -19,12 +19,12 @@ class F_NavigaSistemaVista : public VistaSoloChiudi {
 
 public:
     F_NavigaSistemaVista(F_NavigaSistema& dialogo, PiattaformaQt& piattaforma, QWidget* padre);
+    ~F_NavigaSistemaVista() override;
 
 private:
     /// What the user has opened, and where he looks.
     struct Aspetto {
         QSet<QString> aAperti;
-        QString sCorrente;
         int nInVista = 0;
     };
 
@@ -32,6 +32,7 @@ private:
     void Ripristina();
 
     QTreeWidget* m_Albero;
+    QString m_sCorrente;              ///< key of the node that is current, or was until the tree was emptied
     std::optional<Aspetto> m_Aspetto; ///< of the tree that is being made anew
 };
 

@@ -49,6 +49,7 @@ void AggiungiGruppo(Legami& legami, F_QuadroRecuperi::Linea& linea, QGridLayout*
     griglia->addWidget(gruppo, nRiga, kGruppo, Qt::AlignRight | Qt::AlignVCenter);
     auto* quante = new QLabel;
     quante->setObjectName("LabRecInseriti" + sGruppo);
+    quante->setAccessibleDescription("Righe del gruppo " + sGruppo);
     quante->setMinimumWidth(LarghezzaCifre(*quante, kCifre));
     quante->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     CollegaConRilievo(legami, linea.LabRecInseriti, gruppo, quante);

@@ -14,11 +14,18 @@ namespace ordavel::qt {
 
 namespace {
 
+/// A label is read out as what it shows; what that is comes behind.
+void NominaValore(QLabel* widget, const QString& sNome, const QString& sCheCosa)
+{
+    widget->setObjectName(sNome);
+    widget->setAccessibleDescription(sCheCosa);
+}
+
 /// A row that only shows.
 void AggiungiValore(Legami& legami, Etichetta& etichetta, const QString& sTesto, const QString& sNome,
                     QLabel* widget, QFormLayout* modulo)
 {
-    Nomina(widget, sNome, sTesto);
+    NominaValore(widget, sNome, sTesto);
     legami.collega(etichetta, widget);
     modulo->addRow(sTesto, widget);
 }
@@ -43,7 +50,7 @@ F_RiduzioneVista::F_RiduzioneVista(F_Riduzione& dialogo, PiattaformaQt& piattafo
 void F_RiduzioneVista::AggiungiFile(F_Riduzione& dialogo, QFormLayout* modulo)
 {
     auto* file = new EtichettaPercorso;
-    Nomina(file, "labFile", "File colonne");
+    NominaValore(file, "labFile", "File colonne");
     legami().collega(dialogo.labFile, file);
     QPushButton* sfoglia = NuovoPulsante("Command1", "&Sfoglia…");
     sfoglia->setAccessibleName("Sfoglia i file di colonne");
@@ -69,7 +76,7 @@ void F_RiduzioneVista::AggiungiScelte(F_Riduzione& dialogo, QFormLayout* modulo)
 void F_RiduzioneVista::AggiungiAvanzamento(F_Riduzione& dialogo, QBoxLayout* sotto)
 {
     auto* fase = new QLabel(this);
-    Nomina(fase, "LabInfo", "Fase");
+    NominaValore(fase, "LabInfo", "Fase");
     legami().collega(dialogo.LabInfo, fase);
     sotto->addWidget(fase);
     auto* barra = new QProgressBar(this);

@@ -32,6 +32,7 @@ F_SalvaCondizioniVista::F_SalvaCondizioniVista(F_SalvaCondizioni& dialogo, Piatt
                     [&dialogo, anteprima] { anteprima->Mostra(dialogo.GrdCond); });
     }
     AggiungiPulsanti(dialogo, tutto);
+    resize(sizeHint()); // the whole preview, also on a small screen
 }
 
 } // namespace ordavel::qt

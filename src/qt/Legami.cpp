@@ -26,11 +26,11 @@ namespace ordavel::qt {
 
 namespace {
 
-/// A widget that nobody has hidden is left alone: to show one that has no parent yet would open a window.
+/// A widget that nobody has hidden is left alone: to show one that has no parent yet would open a window. One that is
+/// to be hidden is told so also before it has a parent, which would show it with all its children.
 void MostraWidget(QWidget* widget, bool bVisibile)
 {
-    if (bVisibile != !widget->isHidden() &&
-        (!bVisibile || widget->testAttribute(Qt::WA_WState_ExplicitShowHide))) {
+    if (!bVisibile || widget->testAttribute(Qt::WA_WState_ExplicitShowHide)) {
         widget->setVisible(bVisibile);
     }
 }

@@ -9,6 +9,7 @@
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 #include <QTableView>
 
 #include <algorithm>
@@ -19,6 +20,46 @@ namespace {
 
 /// Lines from both ends that say how wide a column must be; those in between are like them.
 constexpr int kRigheMisurate = 30;
+
+/// Texts of neighbouring columns are kept apart, also where one ends on the right and the next begins on the left.
+QString Distaccato(const QString& sTesto)
+{
+    return ' ' + sTesto + ' ';
+}
+
+class DistaccoTesti : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* opzione, const QModelIndex& indice) const override
+    {
+        QStyledItemDelegate::initStyleOption(opzione, indice);
+        opzione->text = Distaccato(opzione->text);
+    }
+};
+
+/// Headings over their texts, with room for the arrow where there may be one.
+class TestataElenco : public QHeaderView {
+public:
+    explicit TestataElenco(QWidget* padre) : QHeaderView(Qt::Horizontal, padre) {}
+
+protected:
+    void initStyleOptionForIndex(QStyleOptionHeader* opzione, int nColonna) const override
+    {
+        QHeaderView::initStyleOptionForIndex(opzione, nColonna);
+        opzione->text = Distaccato(opzione->text);
+    }
+
+    [[nodiscard]] QSize sectionSizeFromContents(int nColonna) const override
+    {
+        const int nFreccia = style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, this) +
+                             2 * style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, this);
+        return QHeaderView::sectionSizeFromContents(nColonna) +
+               QSize(fontMetrics().horizontalAdvance(Distaccato({})) + (sectionsClickable() ? nFreccia : 0),
+                     0);
+    }
+};
 
 /// The selection of a table as flags.
 std::vector<bool> SceltiDi(const QTableView& vista)
@@ -66,9 +107,8 @@ void AllargaColonna(QTableView& vista, int nColonna)
     for (int i = 0; i < std::min(nRighe, 2 * kRigheMisurate); ++i) {
         const int nRiga = i < kRigheMisurate ? i : nRighe - 1 - (i - kRigheMisurate);
         const QModelIndex indice = vista.model()->index(nRiga, nColonna);
-        const int nSegni = vista.fontMetrics().averageCharWidth();
-        nLarghezza = std::max(nLarghezza,
-                              vista.fontMetrics().horizontalAdvance(indice.data().toString()) + 2 * nSegni);
+        nLarghezza = std::max(nLarghezza, vista.fontMetrics().horizontalAdvance(indice.data().toString()) +
+                                              3 * vista.fontMetrics().averageCharWidth());
     }
     vista.setColumnWidth(nColonna, nLarghezza);
 }
@@ -131,10 +171,14 @@ void Prepara(QTableView& vista, const AspettoElenco& aspetto)
     vista.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     vista.verticalHeader()->setMinimumSectionSize(0);
     vista.verticalHeader()->setDefaultSectionSize(vista.fontMetrics().height() * 5 / 4);
-    const int nElastica = aspetto.nElastica < 0 ? vista.model()->columnCount() - 1 : aspetto.nElastica;
-    vista.horizontalHeader()->setSectionResizeMode(nElastica, QHeaderView::Stretch);
     vista.horizontalHeader()->setHighlightSections(false);
     vista.horizontalHeader()->setSectionsClickable(static_cast<bool>(aspetto.alTitolo));
+    vista.setItemDelegate(new DistaccoTesti(&vista));
+    for (int i = 0; i < vista.model()->columnCount(); ++i) {
+        vista.setColumnWidth(i, 0); // they grow from there
+    }
+    const int nElastica = aspetto.nElastica < 0 ? vista.model()->columnCount() - 1 : aspetto.nElastica;
+    vista.horizontalHeader()->setSectionResizeMode(nElastica, QHeaderView::Stretch);
 }
 
 /// A double click and Enter do the same.
@@ -263,6 +307,7 @@ QTableView* NuovoElenco(Legami& legami, Elenco& elenco, const AspettoElenco& asp
 {
     auto* vista = new QTableView(padre);
     auto* modello = new ModelloElenco(legami, elenco, aspetto.aDestra, vista);
+    vista->setHorizontalHeader(new TestataElenco(vista));
     vista->setModel(modello);
     Prepara(*vista, aspetto);
     legami.collega(static_cast<Controllo&>(elenco), vista);

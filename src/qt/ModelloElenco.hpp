@@ -48,10 +48,10 @@ private:
 
 /// How a list is shown.
 struct AspettoElenco {
-    QString sNome;            ///< object name
-    QString sLetto;           ///< read out for who cannot see it
-    std::vector<int> aDestra; ///< columns, from 0, whose texts stand on the right
-    int nElastica = -1;       ///< the column that takes what width is left, from 0; below 0 the last one
+    QString sNome;                 ///< object name
+    QString sLetto;                ///< read out for who cannot see it
+    std::vector<int> aDestra = {}; ///< columns, from 0, whose texts stand on the right
+    int nElastica = -1;            ///< the column that takes what width is left, from 0; below 0 the last one
     /// Any number of lines may be selected, and the state hears of it; else the selection is the eye's alone.
     bool bMolte = false;
     /// What a click on a heading does, from 0; empty where headings are no buttons.

@@ -58,6 +58,12 @@ QWidget* PiattaformaQt::Davanti() const
     if (QWidget* modale = QApplication::activeModalWidget()) {
         return modale;
     }
+    // A box under a window that stays on top could not be answered.
+    for (const auto& [dialogo, vista] : m_aAccanto) {
+        if (vista && vista->isVisible() && vista->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) {
+            return vista;
+        }
+    }
     return m_Padre == nullptr ? nullptr : m_Padre->window();
 }
 

@@ -35,7 +35,7 @@ public:
     /// The font of the grid, in which widths of texts are measured.
     [[nodiscard]] const QFont& Carattere() const noexcept { return m_Carattere; }
 
-    /// Over which window the next box stands: the modal one in front, else the padre's.
+    /// Over which window the next box stands: the modal one in front, else one that stays on top, else the padre's.
     [[nodiscard]] QWidget* Davanti() const;
 
     eRisposta MostraMessaggio(const Messaggio& messaggio) override;
