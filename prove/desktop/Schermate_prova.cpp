@@ -9,7 +9,7 @@
 #include "desktop/F_Manuale.hpp"
 #include "qt/PiattaformaQt.hpp"
 
-#include <QImage>
+#include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPixmap>
@@ -45,6 +45,15 @@ protected:
 TEST_F(SchermateDesktop, LaFinestra)
 {
     Scatta(Finestra(), "finestra");
+}
+
+TEST_F(SchermateDesktop, LIcona)
+{
+    QLabel icona;
+    const QPixmap immagine = QIcon(QStringLiteral(":/desktop/ordavel.svg")).pixmap(128);
+    EXPECT_EQ(immagine.size(), QSize(128, 128));
+    icona.setPixmap(immagine);
+    Scatta(icona, "icona");
 }
 
 TEST_F(SchermateDesktop, LePagineDelleImpostazioni)
