@@ -8,6 +8,8 @@
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QTextDocument>
+#include <QTextFrame>
+#include <QTextTable>
 #include <QUrl>
 
 namespace ordavel::desktop {
@@ -22,6 +24,19 @@ constexpr int kAltezza = 44;
 constexpr int kDistacchi = 8;
 
 constexpr int kLivelloCapitolo = 2;
+
+/// Thin lines, and texts that keep away from them.
+void Rifinisci(QTextTable& tabella, const QPalette& tavolozza, int nRiga)
+{
+    QTextTableFormat formato = tabella.format();
+    formato.setBorderCollapse(true);
+    formato.setBorder(1);
+    formato.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+    formato.setBorderBrush(tavolozza.mid());
+    formato.setCellSpacing(0);
+    formato.setCellPadding(nRiga / 4.0);
+    tabella.setFormat(formato);
+}
 
 } // namespace
 
@@ -45,6 +60,11 @@ TestoManuale::TestoManuale(QWidget* padre) : QTextBrowser(padre)
     setOpenLinks(false);
     document()->setDocumentMargin(fontMetrics().lineSpacing());
     setSource(QUrl(QStringLiteral("qrc:/desktop/manuale.md")), QTextDocument::MarkdownResource);
+    for (QTextFrame* cornice : document()->rootFrame()->childFrames()) {
+        if (auto* tabella = qobject_cast<QTextTable*>(cornice)) {
+            Rifinisci(*tabella, palette(), fontMetrics().lineSpacing());
+        }
+    }
     for (QTextBlock blocco = document()->begin(); blocco.isValid(); blocco = blocco.next()) {
         if (blocco.blockFormat().headingLevel() == kLivelloCapitolo) {
             m_aCapitoli.append(blocco.text());
