@@ -70,8 +70,8 @@ apri_finestra() {
     fi
     installa_pacchetti "${PACCHETTI_PROGRAMMA[@]}" "${PACCHETTI_FACCIA[@]}"
     costruisci ON ordavel_programma ordavel_desktop TorvanSvilSist trvrdcol
-    # The window looks for the external engines beside itself.
-    ln -sf "$PWD/$CARTELLA"/src/esterni/*/*.so "$(dirname "$FINESTRA")"
+    # The window looks for the external engines beside itself; they are built beside the other program.
+    ln -sf "$PWD/$CARTELLA"/src/cli/*.so "$(dirname "$FINESTRA")"
     crea_esempi
     scrivi_impostazioni
     printf 'Apro la finestra con il sistema superenalotto.\n'

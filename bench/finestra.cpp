@@ -22,8 +22,8 @@
 namespace ordavel::qt {
 namespace {
 
-constexpr int kVolte = 5;
-constexpr int kCondizioni = 120;
+constexpr int kVolte = 3;
+constexpr int kCondizioni = 40;
 
 /// A desktop that shows nothing and lets nothing run.
 class Muta : public Piattaforma {
@@ -56,7 +56,7 @@ void Riempi(Ordavel& sistema)
         }
         griglia.Riga(i) = {"Punti Col.", sNumeri, "1", "-", " "};
     }
-    griglia.Riga(kCondizioni + 2) = {"LinkClose", "LinkClose", "75-76-77-78", "", ""};
+    griglia.Riga(kCondizioni + 2) = {"LinkClose", "LinkClose", "27-28-29-30", "", ""};
     for (std::int16_t n = 1; n <= kNumeroMassimo; ++n) {
         sistema.SelezionaNumero(n, true);
     }

@@ -347,6 +347,10 @@ public:
     [[nodiscard]] const std::string& FileColonne() const noexcept { return m_FileColonne; }
     [[nodiscard]] bool Modificato() const noexcept { return m_Modificato; }
     [[nodiscard]] bool ColonneValide() const noexcept { return m_ColonneValide; }
+    /// How often a system was opened or begun anew, and how often one was saved as it then was: whoever follows the
+    /// component sees by them that something was, and a dialog that was cancelled is neither.
+    [[nodiscard]] std::uint32_t Sistemi() const noexcept { return m_nSistemi; }
+    [[nodiscard]] std::uint32_t Salvataggi() const noexcept { return m_nSalvataggi; }
     /// Is a run or a text export on its way?
     [[nodiscard]] bool InCorso() const noexcept { return m_bInCorso; }
 
@@ -471,6 +475,8 @@ private:
     std::int32_t m_LarghezzaLunga = 0;
     SegniNumeri m_TabellaNumeri;
     double m_ColonneDaFiltrare = 0; ///< columns of the run, the base of an external run's percentage
+    std::uint32_t m_nSistemi = 0;
+    std::uint32_t m_nSalvataggi = 0;
     bool m_Modificato = false;
     bool m_ColonneValide = false;
     bool m_StopExport = false;

@@ -189,6 +189,9 @@ Q_SIGNALS:
     /// A run or an export has begun, or is over.
     void inCorsoChanged(bool bInCorso);
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     class Privato;
     std::unique_ptr<Privato> m_p;

@@ -10,9 +10,10 @@
 #include "qt/PiattaformaQt.hpp"
 #include "qt/SchermateComuni.hpp"
 
-#include <QImage>
+#include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPixmap>
 #include <QTabWidget>
 #include <QTest>
 
@@ -58,6 +59,15 @@ TEST_F(SchermateDesktop, IlSistemaAperto)
     const auto* conto = Finestra().findChild<QLabel*>("LabConto");
     EXPECT_TRUE(QTest::qWaitFor([&] { return conto->text().contains("su 38.760"); }));
     Scatta(Finestra(), "sistema");
+}
+
+TEST_F(SchermateDesktop, LIcona)
+{
+    QLabel icona;
+    const QPixmap immagine = QIcon(QStringLiteral(":/desktop/ordavel.svg")).pixmap(128);
+    EXPECT_EQ(immagine.size(), QSize(128, 128));
+    icona.setPixmap(immagine);
+    Scatta(icona, "icona");
 }
 
 TEST_F(SchermateDesktop, LePagineDelleImpostazioni)

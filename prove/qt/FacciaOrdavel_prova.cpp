@@ -247,6 +247,45 @@ TEST_F(FacciaProva, UnFileNominatoSiApreSenzaChiedereIlNome)
     EXPECT_GE(spia.count(), 1);
 }
 
+TEST_F(FacciaProva, UnAperturaLasciataPerdereTieneGliAnnullamenti)
+{
+    Sistema().InsCondizione(TipoCondizione::ponte, "1,2");
+    std::string sFile = cartella.filePath("prova.sic").toStdString();
+    ASSERT_TRUE(Sistema().Salva(sFile, true));
+    QCoreApplication::processEvents();
+    ASSERT_TRUE(widget.annullamenti()->isClean());
+    ASSERT_EQ(widget.annullamenti()->count(), 1);
+    Rispondi();
+    Azione("Open").trigger();
+    EXPECT_EQ(widget.annullamenti()->count(), 1);
+    EXPECT_TRUE(widget.annullamenti()->isClean());
+}
+
+TEST_F(FacciaProva, UnSistemaNuovoNonHaNullaDaAnnullare)
+{
+    Sistema().InsCondizione(TipoCondizione::ponte, "1,2");
+    Rispondi([](QWidget& finestra) { QTest::keyClick(&finestra, Qt::Key_S, Qt::AltModifier); });
+    Azione("New").trigger();
+    EXPECT_TRUE(Griglia().Vuota(1));
+    EXPECT_EQ(widget.annullamenti()->count(), 0);
+}
+
+TEST_F(FacciaProva, UnFileGuastoNonRisultaAperto)
+{
+    QFile file(cartella.filePath("guasto.sic"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("non un sistema");
+    file.close();
+    Rispondi();
+    EXPECT_FALSE(widget.apriFile(file.fileName()));
+    EXPECT_FALSE(widget.apriFile(cartella.filePath("assente.sic")));
+}
+
+TEST_F(FacciaProva, LaStrisciaMostraINovantaNumeri)
+{
+    EXPECT_EQ(Sistema().Controlli().PicProno.Scritte.Valore().size(), 90U);
+}
+
 TEST_F(FacciaProva, ChiNonVuolePerdereLeModificheTieneIlSuoSistema)
 {
     Sistema().InsCondizione(TipoCondizione::ponte, "1,2");

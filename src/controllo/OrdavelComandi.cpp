@@ -143,6 +143,7 @@ void Ordavel::NuovoSistema()
     KillFile(m_FileColonne, m_Piattaforma);
     AggiornaComandiColonne();
     m_Controlli.Toolbar2.Voce("Salva").Abilitato.Poni(false);
+    ++m_nSistemi;
 }
 
 void Ordavel::InserisciDaBarra(TipoCondizione tipo)

@@ -45,6 +45,7 @@ bool Ordavel::SalvaSistema(std::string& sFile, bool bAzzeraModificato)
                           if (!sFile.empty()) {
                               ScriviSistema(sFile);
                               m_Modificato = m_Modificato && !bAzzeraModificato;
+                              m_nSalvataggi += bAzzeraModificato ? 1 : 0;
                           }
                       }) &&
            !sFile.empty();
@@ -93,6 +94,7 @@ bool Ordavel::Apri()
     m_Piattaforma.LasciaEventi();
     m_FileSistema = sScelto;
     ConGestore(m_Piattaforma, "OrdavelSis.Apri", [&] { bLetto = LeggiSistema(); });
+    m_nSistemi += bLetto ? 1 : 0;
     return bLetto;
 }
 

@@ -19,18 +19,9 @@
 #include <QToolBar>
 
 #include <array>
+#include <utility>
 
 namespace ordavel::qt {
-
-namespace {
-
-/// The command that has put the file and the system in line, if it came to its end.
-bool Salva(const QString& sChiave)
-{
-    return sChiave == "Save" || sChiave == "Salva" || sChiave == "SalvaConNome";
-}
-
-} // namespace
 
 OrdavelWidget::Privato::Privato(OrdavelWidget& widget)
     : m_Widget(widget),
@@ -166,8 +157,8 @@ void OrdavelWidget::Privato::CollegaEventi()
         sTipogioco = Testo(sGioco);
     };
     eventi.PropertyChanged = [this](std::string_view sProprieta) { PropertyChanged(sProprieta); };
-    connect(&m_Comandi, &ComandiOrdavel::inizia, this, [this] { m_Annullamenti.Controlla(); });
-    connect(&m_Comandi, &ComandiOrdavel::eseguito, this, &Privato::ComandoEseguito);
+    connect(&m_Comandi, &ComandiOrdavel::inizia, this, &Privato::SeguiSistema);
+    connect(&m_Comandi, &ComandiOrdavel::eseguito, this, &Privato::Controlla);
     // Whatever has changed while events ran is seen when they pause, and when a loop that never pauses turns; nothing
     // else has to tell.
     if (auto* eventiDelFilo = QAbstractEventDispatcher::instance(QThread::currentThread())) {
@@ -182,7 +173,7 @@ void OrdavelWidget::Privato::Controlla()
         m_bCorsaNota = m_Ordavel.InCorso();
         Q_EMIT m_Widget.inCorsoChanged(m_bCorsaNota);
     }
-    m_Annullamenti.Controlla();
+    SeguiSistema();
     m_Griglia->aggiorna();
     if (!m_bProgetto) {
         m_Conto.controlla();
@@ -195,18 +186,15 @@ void OrdavelWidget::Privato::Controlla()
     }
 }
 
-void OrdavelWidget::Privato::ComandoEseguito(const QString& sChiave)
+void OrdavelWidget::Privato::SeguiSistema()
 {
-    const bool bModificato = m_Ordavel.Modificato();
-    if (sChiave == "Open" && !bModificato) {
+    if (std::exchange(m_nSistemi, m_Ordavel.Sistemi()) != m_Ordavel.Sistemi()) {
         m_Annullamenti.Ricomincia();
-    } else if (sChiave == "New" && m_Ordavel.FileSistema().empty() &&
-               m_Ordavel.Contenuto() == ContenutoSistema()) {
-        m_Annullamenti.Ricomincia();
-    } else if (Salva(sChiave) && !bModificato) {
+    }
+    m_Annullamenti.Controlla();
+    if (std::exchange(m_nSalvataggi, m_Ordavel.Salvataggi()) != m_Ordavel.Salvataggi()) {
         m_Annullamenti.Salvato();
     }
-    Controlla();
 }
 
 void OrdavelWidget::Privato::PropertyChanged(std::string_view sProprieta)

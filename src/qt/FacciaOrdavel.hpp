@@ -56,9 +56,11 @@ private:
     void CollegaEventi();
     void CreaAnnulla();
     void Controlla();
-    void ComandoEseguito(const QString& sChiave);
+    void SeguiSistema();
     void PropertyChanged(std::string_view sProprieta);
 
+    std::uint32_t m_nSistemi = 0;
+    std::uint32_t m_nSalvataggi = 0;
     QString m_sFileNoto;
     bool m_bModificatoNoto = false;
     bool m_bCorsaNota = false;

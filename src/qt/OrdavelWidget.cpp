@@ -46,11 +46,12 @@ void OrdavelWidget::riempiMenu(QMenuBar* barra)
 
 bool OrdavelWidget::apriFile(const QString& sFile)
 {
+    const std::uint32_t nPrima = m_p->m_Ordavel.Sistemi();
     m_p->m_Piattaforma.RispondiApri(Testo(sFile));
     m_p->m_Comandi.Azione("Open")->trigger();
-    // Whoever kept the changes was not asked for a file.
+    // Whoever keeps the changes is not asked for a file.
     m_p->m_Piattaforma.RispondiApri({});
-    return m_p->m_Ordavel.FileSistema() == Testo(sFile) && !m_p->m_Ordavel.Modificato();
+    return m_p->m_Ordavel.Sistemi() != nPrima;
 }
 
 bool OrdavelWidget::inCorso() const
@@ -75,6 +76,12 @@ bool OrdavelWidget::loadProperties(QSettings& impostazioni)
 {
     m_p->m_Ordavel.LeggiProprieta(ArchivioQSettings(impostazioni));
     return impostazioni.status() == QSettings::NoError;
+}
+
+void OrdavelWidget::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    m_p->m_Ordavel.Resize();
 }
 
 QSize OrdavelWidget::sizeHint() const

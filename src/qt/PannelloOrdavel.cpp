@@ -13,6 +13,8 @@
 #include <QProgressBar>
 #include <QToolButton>
 
+#include <algorithm>
+
 namespace ordavel::qt {
 
 namespace {
@@ -52,12 +54,17 @@ QLabel* NuovoConto(Etichetta& etichetta, const QString& sNome, const QString& sD
     widget->setFont(carattere);
     widget->setObjectName(sNome);
     widget->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    widget->setMinimumWidth(widget->fontMetrics().horizontalAdvance("000"));
+    // Of a fixed size: a count that changes thirty times a second must not lay the whole window out each time.
+    const int nMinimo = widget->fontMetrics().horizontalAdvance("000.000");
+    widget->setFixedSize(nMinimo, widget->fontMetrics().height());
     legami.collega(static_cast<Controllo&>(etichetta), widget);
-    legami.Segui(etichetta.Testo, widget, [widget, sDidascalia](const std::string& s) {
+    legami.Segui(etichetta.Testo, widget, [widget, sDidascalia, nMinimo](const std::string& s) {
         widget->setText(Testo(s));
         widget->setAccessibleName(QString(sDidascalia).remove(u':').trimmed() + ": " + Testo(s));
-        widget->updateGeometry();
+        const int nServe = widget->fontMetrics().horizontalAdvance(widget->text()) + 2;
+        if (s.empty() || nServe > widget->width()) {
+            widget->setFixedWidth(std::max(nServe, nMinimo));
+        }
     });
     return widget;
 }
