@@ -314,7 +314,8 @@ TEST_F(FinestraProva, IlManualeSiApreUnaVoltaSola)
     voce->trigger();
     const auto aManuali = Finestra().findChildren<F_Manuale*>();
     ASSERT_EQ(aManuali.size(), 1);
-    EXPECT_TRUE(aManuali.constFirst()->findChild<QTextBrowser*>()->toPlainText().contains("In cinque passi"));
+    EXPECT_TRUE(
+        aManuali.constFirst()->findChild<QTextBrowser*>()->toPlainText().contains("Il primo sistema"));
 }
 
 TEST_F(FinestraProva, OgniVoceDiMenuHaIlSuoTastoMnemonico)

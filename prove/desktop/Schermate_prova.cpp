@@ -8,12 +8,14 @@
 #include "desktop/F_Impostazioni.hpp"
 #include "desktop/F_Manuale.hpp"
 #include "qt/PiattaformaQt.hpp"
+#include "qt/SchermateComuni.hpp"
 
 #include <QIcon>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPixmap>
 #include <QTabWidget>
+#include <QTest>
 
 namespace ordavel::desktop {
 namespace {
@@ -23,11 +25,8 @@ protected:
     void Scatta(QWidget& widget, const QString& sNome)
     {
         widget.show();
-        QApplication::processEvents();
-        const QPixmap immagine = widget.grab();
-        EXPECT_FALSE(immagine.isNull());
         const QString sCartella = qEnvironmentVariable("ORDAVEL_SCHERMATE", In(""));
-        EXPECT_TRUE(immagine.save(sCartella + "/desktop-" + sNome + ".png"));
+        qt::prove::Ritrai(widget, sCartella + "/desktop-" + sNome + ".png");
     }
 
     /// Every label has the room that its text wants.
@@ -40,11 +39,26 @@ protected:
             }
         }
     }
+
+private:
+    const qt::prove::AspettoFisso m_Aspetto{false};
 };
 
 TEST_F(SchermateDesktop, LaFinestra)
 {
     Scatta(Finestra(), "finestra");
+}
+
+TEST_F(SchermateDesktop, IlSistemaAperto)
+{
+    Componente().Controlli().CmbTipoGioco.Indice.Poni(3);
+    Componente().PoniContenuto(qt::prove::SistemaEsempio(), false);
+    Componente().SetColonnaGrid(2);
+    Finestra().resize(1080, 660);
+    Finestra().show();
+    const auto* conto = Finestra().findChild<QLabel*>("LabConto");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return conto->text().contains("su 38.760"); }));
+    Scatta(Finestra(), "sistema");
 }
 
 TEST_F(SchermateDesktop, LIcona)
@@ -84,6 +98,10 @@ TEST_F(SchermateDesktop, IlManuale)
 {
     F_Manuale manuale(nullptr);
     Scatta(manuale, "manuale");
+    for (const int nCapitolo : {2, 4, 7, 21}) {
+        manuale.findChild<TestoManuale*>()->VaiACapitolo(nCapitolo);
+        Scatta(manuale, QString("manuale-%1").arg(nCapitolo));
+    }
 }
 
 } // namespace

@@ -6,64 +6,119 @@
 #include "ordavel/Ordavel.hpp"
 #include "ordavel/OrdavelWidget.hpp"
 
-#include "qt/Legami.hpp"
-#include "qt/VistaDialogo.hpp"
+#include "qt/AnteprimaSchedine.hpp"
+#include "qt/F_NavigaSistema_vista.hpp"
+#include "qt/F_Progress_vista.hpp"
+#include "qt/F_Statistica_vista.hpp"
+#include "qt/SchermateComuni.hpp"
+#include "qt/SistemaQtProva.hpp"
+#include "qt/StampaSchedine.hpp"
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QDir>
-#include <QImage>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QTabBar>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QTreeWidget>
 #include <gtest/gtest.h>
 
 namespace ordavel::qt {
 
 namespace {
 
-QPalette Scura()
+using prove::Trova;
+
+/// What a control of a dialog is made to show, by its name: a text, a choice, a tick when there is none.
+struct Valore {
+    const char* sControllo;
+    const char* sTesto = "";
+};
+
+void Metti(const QWidget& finestra, const Valore& valore)
 {
-    const QColor fondo(0x2B, 0x2B, 0x2E);
-    const QColor base(0x3A, 0x3A, 0x3E);
-    const QColor testo(0xE6, 0xE6, 0xE6);
-    QPalette tavolozza(fondo);
-    for (const QPalette::ColorRole ruolo :
-         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
-        tavolozza.setColor(ruolo, testo);
-        tavolozza.setColor(QPalette::Disabled, ruolo, QColor(0x8A, 0x8A, 0x8A));
+    auto& widget = Trova<QWidget>(finestra, valore.sControllo);
+    const QString sTesto = QString::fromUtf8(valore.sTesto);
+    if (auto* casella = qobject_cast<QLineEdit*>(&widget)) {
+        casella->setText(sTesto);
+    } else if (auto* combo = qobject_cast<QComboBox*>(&widget)) {
+        EXPECT_GE(combo->findText(sTesto), 0) << valore.sControllo << " " << valore.sTesto;
+        combo->setCurrentText(sTesto);
+    } else if (auto* bottone = qobject_cast<QAbstractButton*>(&widget)) {
+        bottone->click();
+    } else {
+        ADD_FAILURE() << valore.sControllo;
     }
-    tavolozza.setColor(QPalette::Base, base);
-    tavolozza.setColor(QPalette::AlternateBase, fondo);
-    tavolozza.setColor(QPalette::ToolTipBase, base);
-    tavolozza.setColor(QPalette::Highlight, QColor(0x2F, 0x6F, 0xB5));
-    tavolozza.setColor(QPalette::HighlightedText, Qt::white);
-    tavolozza.setColor(QPalette::PlaceholderText, QColor(0x9A, 0x9A, 0x9A));
-    return tavolozza;
 }
 
-/// The example "superenalotto".
-ContenutoSistema Esempio()
+/// A dialog, what is put in it, and the name of its picture.
+struct Ritratto {
+    const char* sComando;
+    const char* sNome;
+    std::vector<Valore> aValori;
+};
+
+/// In the order in which a user may come to them.
+std::vector<Ritratto> DialoghiCondizioni()
 {
-    ContenutoSistema contenuto;
-    contenuto.aCondizioni = {
-        {"Peso", "Caselle :\r\n1-2-3-4-5-6", "220-320", "200-219", "1"},
-        {"Pari-Dispari", "Pari", "2-3-4", "1-5", "1"},
-        {"Consecutivi", "Consecutivi", "0-1", "2", "1"},
-        {"LinkOpen", "LinkOpen", "", "", ""},
-        {"Decine", "Decine", "1-2", "3", "1"},
-        {"Ampiezza", "Ampiezza", "45-80", "-", " "},
-        {"LinkClose", "LinkClose", "1-2", "", ""},
-        {"Punti Col.", "03-11-19-23-\r\n31-38-45-53", "1-2-3-4", "", " "},
+    return {
+        {"PuntisuPeso",
+         "peso",
+         {{"ChkCaselle1"},
+          {"ChkCaselle2"},
+          {"ChkCaselle3"},
+          {"ChkCaselle4"},
+          {"ChkCaselle5"},
+          {"ChkCaselle6"},
+          {"TxtPunti0", "220"},
+          {"TxtPunti1", "320"},
+          {"CmbRecupero", "1"},
+          {"TxtPuntiRec0", "200"},
+          {"TxtPuntiRec1", "219"}}},
+        {"PuntisuPariDispari",
+         "pari-dispari",
+         {{"ChkPunti2"},
+          {"ChkPunti3"},
+          {"ChkPunti4"},
+          {"CmbRecupero", "1"},
+          {"ChkRecupero1"},
+          {"ChkRecupero5"}}},
+        {"PuntiSuPosizioni", "posizioni", {{"ObCaselle1"}, {"TxtPunti0", "1"}, {"TxtPunti1", "19"}}},
+        {"PuntiSuAmpiezza", "ampiezza", {{"TxtPunti0", "45"}, {"TxtPunti1", "80"}}},
+        {"PuntiSuCadenzeSpec", "cadenze-specifiche", {{"cmbCadenza", "3"}, {"ChkPunti0"}, {"ChkPunti1"}}},
+        {"PuntiSuSequenze",
+         "sequenze",
+         {{"Command10"}, {"Command11"}, {"CmbPasso", "1"}, {"ChkPunti1"}, {"ChkPunti2"}, {"ChkConsec1"}}},
+        {"PuntiSuGruppiDiConsecutivi", "gruppi-di-consecutivi", {{"ChkPunti0"}, {"ChkPunti1"}}},
+        {"PuntiSuFormule", "formule", {{"CmbFormula1", "2"}, {"CmbFormula2", "2"}, {"CmbFormula3", "2"}}},
     };
-    contenuto.aQuadro = {"1,1,-1"};
-    for (const int n : {3, 4, 11, 14, 19, 22, 23, 31, 34, 38, 41, 45, 46, 53, 58, 62, 67, 73, 79, 86}) {
-        contenuto.numeri(n) = 1;
-    }
-    return contenuto;
 }
 
+std::vector<Ritratto> AltriDialoghi()
+{
+    return {
+        {"QuadroRecuperi", "quadro-recuperi", {}},
+        {"puntimassivi",
+         "imposta-punti",
+         {{"CmbDalla", "2"}, {"CmbAlla", "3"}, {"ChkPunti1"}, {"ChkPunti2"}}},
+        {"SalvaCondizioni",
+         "salva-condizioni",
+         {{"CmbCondInizio", "   1 - Peso"}, {"CmbCondFine", "   3 - Consecutivi"}}},
+        {"InsCondizioni", "inserisci-condizioni", {}},
+        {"DelCondizioni", "rimuovi-condizioni", {}},
+        {"EffettoCondizioni", "effetto", {}},
+        {"VisualizzaColonne", "colonne", {}},
+    };
+}
+
+/// The window over the example, with fonts that are the same everywhere; in light and in dark.
 struct Schermate : testing::TestWithParam<bool> {
     Schermate()
     {
@@ -72,115 +127,228 @@ struct Schermate : testing::TestWithParam<bool> {
             m_sDove = sChiesta;
             QDir().mkpath(m_sDove);
         }
-        if (GetParam()) {
-            QApplication::setPalette(Scura());
-        }
+        widget = std::make_unique<OrdavelWidget>();
         sistema().PoniPercorsoTemp(Testo(m_Cartella.filePath("temp")));
+        sistema().PoniDirSistemi(Testo(m_Cartella.filePath("sistemi")));
+        sistema().PoniPercorsoSalvaColonne(Testo(m_Cartella.filePath("colonne")));
+        sistema().PoniFileBdSE(ORDAVEL_ARCHIVI "/superenalotto.bd");
         sistema().Controlli().CmbTipoGioco.Indice.Poni(3);
-        sistema().PoniContenuto(Esempio(), false);
-        widget.setWindowTitle("superenalotto - Ordavel");
-        widget.resize(1080, 700);
-        widget.show();
-        widget.setFocus();
+        sistema().PoniContenuto(prove::SistemaEsempio(), false);
+        widget->resize(1080, 640);
+        widget->show();
+        widget->setFocus();
         Attendi();
     }
-    ~Schermate() override { QApplication::setPalette(m_Prima); }
 
-    Ordavel& sistema() { return widget.componente(); }
+    Ordavel& sistema() const { return widget->componente(); }
 
     /// Until the count under the grid stands.
-    void Attendi()
+    void Attendi() const
     {
-        const auto* conto = widget.findChild<QLabel*>("LabConto");
-        ASSERT_NE(conto, nullptr);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return conto->text().contains("su 38.760"); }));
+        const auto& conto = Trova<QLabel>(*widget, "LabConto");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return conto.text().contains("su 38.760"); }));
     }
 
-    void Ritrai(QWidget& finestra, const QString& sNome)
+    void Ritrai(QWidget& finestra, const QString& sNome) const
     {
-        const QString sFile = QString("%1/%2-%3.png").arg(m_sDove, sNome, GetParam() ? "scuro" : "chiaro");
-        const QImage immagine = finestra.grab().toImage();
-        EXPECT_GT(immagine.width(), 100) << sNome.toStdString();
-        EXPECT_TRUE(immagine.save(sFile)) << sFile.toStdString();
+        prove::Ritrai(finestra, QString("%1/%2-%3.png").arg(m_sDove, sNome, GetParam() ? "scuro" : "chiaro"));
     }
+
+    void Premi(const char* sComando) const { Trova<QAction>(*widget, sComando).trigger(); }
 
     /// Opens a dialog by a command, lets it be filled, and takes its picture.
     void RitraiDialogo(
-        const char* sComando, const QString& sNome,
-        const std::function<void(QWidget&)>& riempi = [](QWidget&) {})
+        const Ritratto& ritratto, const std::function<void(QWidget&)>& dopo = [](QWidget&) {}) const
     {
-        bool bVisto = false;
-        QTimer::singleShot(0, [&] {
-            QWidget* finestra = QApplication::activeModalWidget();
-            ASSERT_NE(finestra, nullptr) << sComando;
-            riempi(*finestra);
-            QCoreApplication::processEvents();
-            Ritrai(*finestra, sNome);
-            bVisto = true;
-            finestra->close();
-        });
-        widget.findChild<QAction*>(sComando)->trigger();
-        EXPECT_TRUE(bVisto) << sComando;
+        EXPECT_TRUE(prove::Quando<VistaDialogo>(
+            [&](VistaDialogo& finestra) {
+                for (const Valore& valore : ritratto.aValori) {
+                    Metti(finestra, valore);
+                }
+                dopo(finestra);
+                Ritrai(finestra, ritratto.sNome);
+            },
+            [&] { Premi(ritratto.sComando); }))
+            << ritratto.sComando;
+    }
+
+    void Sviluppa() const
+    {
+        EXPECT_TRUE(prove::Scatola([this] { sistema().GestSviluppo(); }).startsWith("Fine sviluppo"));
+        Attendi();
     }
 
     QTemporaryDir m_Cartella;
     QString m_sDove = m_Cartella.path();
-    QPalette m_Prima = QApplication::palette();
-    OrdavelWidget widget;
+    const prove::AspettoFisso m_Aspetto{GetParam()};
+    std::unique_ptr<OrdavelWidget> widget;
 };
+
+/// A window that stands beside the work.
+template <typename Finestra> Finestra* Accanto()
+{
+    for (QWidget* finestra : QApplication::topLevelWidgets()) {
+        auto* vista = dynamic_cast<Finestra*>(finestra);
+        if (vista != nullptr && vista->isVisible()) {
+            return vista;
+        }
+    }
+    return nullptr;
+}
 
 } // namespace
 
 TEST_P(Schermate, LaFinestra)
 {
     sistema().SetColonnaGrid(2);
-    Ritrai(widget, "finestra");
-    widget.resize(560, 620);
-    QTest::qWait(50);
-    Ritrai(widget, "finestra-stretta");
-    widget.resize(1080, 700);
-    widget.findChild<QAction*>("SelNumeri")->trigger();
-    QTest::qWait(50);
-    Ritrai(widget, "numeri");
+    Ritrai(*widget, "griglia");
+    widget->resize(560, 620);
+    Ritrai(*widget, "griglia-stretta");
+    widget->resize(1080, 640);
+    Premi("SelNumeri");
+    Ritrai(*widget, "numeri");
 }
 
 TEST_P(Schermate, IDialoghiDelleCondizioni)
 {
-    RitraiDialogo("PuntisuPeso", "peso");
-    RitraiDialogo("PuntisuPariDispari", "pari-dispari");
-    RitraiDialogo("PuntiSuColonna", "punti-su-colonna");
-    RitraiDialogo("PuntiSuSequenze", "sequenze");
-    RitraiDialogo("PuntiSuFormule", "formule");
-    RitraiDialogo("PuntiSuEmulatore", "emulatore");
+    for (const Ritratto& ritratto : DialoghiCondizioni()) {
+        RitraiDialogo(ritratto);
+    }
+}
+
+TEST_P(Schermate, LaColonnaDiUnaCondizione)
+{
+    RitraiDialogo({"PuntiSuColonna", "punti-su-colonna", {}}, [](QWidget& finestra) {
+        auto& numeri = Trova<QWidget>(finestra, "SelnovoNumeri1");
+        QTest::keyClick(&numeri, Qt::Key_Home);
+        int nQui = 1;
+        for (const int nNumero : {3, 11, 19, 23, 31, 38, 45, 53}) {
+            for (; nQui < nNumero; ++nQui) {
+                QTest::keyClick(&numeri, Qt::Key_Right);
+            }
+            QTest::keyClick(&numeri, Qt::Key_Space);
+        }
+        Metti(finestra, {"ChkPunti1"});
+    });
+}
+
+TEST_P(Schermate, IlLink)
+{
+    ContenutoSistema contenuto = prove::SistemaEsempio();
+    contenuto.aCondizioni.resize(6);
+    sistema().PoniContenuto(contenuto, false);
+    RitraiDialogo({"LinkClose", "link", {}}, [](QWidget& finestra) {
+        auto& lista = Trova<QListWidget>(finestra, "List1");
+        for (const int nQuante : {1, 2}) {
+            lista.item(nQuante)->setSelected(true);
+        }
+    });
+}
+
+TEST_P(Schermate, LEmulatore)
+{
+    RitraiDialogo({"PuntiSuEmulatore", "emulatore", {{"Text2", "100"}}}, [](QWidget& finestra) {
+        auto& casella = Trova<QLineEdit>(finestra, "Text1");
+        for (const char* sMinimo : {"20", "25", "5", "0"}) {
+            casella.setText(sMinimo);
+            QTest::keyClick(&casella, Qt::Key_Down);
+        }
+    });
+}
+
+TEST_P(Schermate, LaStatistica)
+{
+    RitraiDialogo({"PuntisuPeso", "peso-statistica", {}}, [this](QWidget& finestra) {
+        EXPECT_TRUE(prove::Quando<F_StatisticaVista>(
+            [this](F_StatisticaVista& statistica) { Ritrai(statistica, "statistica"); },
+            [&] { prove::Clicca(finestra, "Statistica"); }));
+    });
 }
 
 TEST_P(Schermate, GliAltriDialoghi)
 {
-    RitraiDialogo("QuadroRecuperi", "quadro-recuperi");
-    RitraiDialogo("puntimassivi", "imposta-punti");
-    RitraiDialogo("SalvaCondizioni", "salva-condizioni");
-    RitraiDialogo("GestCondizioni", "apri-condizioni");
-    RitraiDialogo("PuntiSuColonnaTxt", "importa-colonne");
-    RitraiDialogo("Riduzione", "riduzione");
+    Sviluppa();
+    Ritrai(*widget, "sviluppato");
+    for (const Ritratto& ritratto : AltriDialoghi()) {
+        RitraiDialogo(ritratto);
+    }
 }
 
-TEST_P(Schermate, IRisultati)
+TEST_P(Schermate, LeColonneImportate)
 {
-    // The box at the end of the run.
-    QTimer chiude;
-    QObject::connect(&chiude, &QTimer::timeout, [] {
-        if (QWidget* finestra = QApplication::activeModalWidget()) {
-            finestra->close();
+    const std::string sFile = Testo(m_Cartella.filePath("colonne.txt"));
+    ordavel::prove::ScriviFile(sFile, "3 11 19 23 31\r\n4 14 22 34 41 46\r\n45 53 58 62 67\r\n");
+    RitraiDialogo({"PuntiSuColonnaTxt", "importa-colonne", {}}, [&](QWidget& finestra) {
+        EXPECT_TRUE(prove::ConFile(sFile, [&] { prove::Clicca(finestra, "open"); }));
+        auto& lista = Trova<QTableView>(finestra, "ListView1");
+        lista.selectAll();
+        for (const char* sControllo : {"punti", "ChkPunti1", "ChkPunti2", "XPButton2"}) {
+            Metti(finestra, {sControllo});
+        }
+        lista.clearSelection();
+    });
+}
+
+TEST_P(Schermate, LoSpoglio)
+{
+    Sviluppa();
+    for (int nPagina = 0; nPagina < 3; ++nPagina) {
+        const std::string sNome = "spoglio-" + std::to_string(nPagina + 1);
+        const char* sColonna = nPagina == 1 ? "3,14,22,41,53,79" : "3.14.22.41.53.79";
+        RitraiDialogo({"ConfrontoCondSuCol", sNome.c_str(), {{"Text1", sColonna}}},
+                      [nPagina](QWidget& finestra) {
+                          prove::Clicca(finestra, "XPButton10");
+                          Trova<QTabBar>(finestra, "TabStrip1").setCurrentIndex(nPagina);
+                      });
+    }
+}
+
+TEST_P(Schermate, LaRiduzione)
+{
+    Sviluppa();
+    RitraiDialogo({"Riduzione", "riduzione", {{"cmbRiduzione", "N - 2"}}}, [](QWidget& finestra) {
+        EXPECT_TRUE(prove::Scatola([&] { prove::Clicca(finestra, "XPButton10"); }).startsWith("Fine"));
+        // A folder of the moment is none to be shown.
+        Trova<QLabel>(finestra, "labFile").setText("/home/anna/Ordavel/Colonne/superenalotto.col");
+        Trova<QLabel>(finestra, "LabFileRidotto")
+            .setText("/home/anna/Ordavel/Colonne/superenalotto_Rid_N-2.col");
+    });
+}
+
+TEST_P(Schermate, LAlbero)
+{
+    Premi("Naviga");
+    auto* vista = Accanto<F_NavigaSistemaVista>();
+    ASSERT_NE(vista, nullptr);
+    Trova<QTreeWidget>(*vista, "TreeView1").expandAll();
+    Ritrai(*vista, "naviga");
+    vista->close();
+}
+
+TEST_P(Schermate, LeSchedine)
+{
+    Sviluppa();
+    StampaSchedine stampa(Testo(sistema().FileColonne()), 6, "SuperEnalotto");
+    AnteprimaSchedine anteprima(stampa, widget.get());
+    anteprima.show();
+    Ritrai(anteprima, "schedine");
+}
+
+TEST_P(Schermate, IlTesto)
+{
+    Sviluppa();
+    bool bVista = false;
+    QTimer orologio;
+    QObject::connect(&orologio, &QTimer::timeout, &orologio, [&] {
+        auto* vista = Accanto<F_ProgressVista>();
+        if (vista != nullptr && !bVista) {
+            bVista = true;
+            Ritrai(*vista, "testo");
         }
     });
-    chiude.start(5);
-    ASSERT_TRUE(sistema().GestSviluppo());
-    chiude.stop();
-    Attendi();
-    Ritrai(widget, "sviluppato");
-    RitraiDialogo("VisualizzaColonne", "colonne");
-    RitraiDialogo("EffettoCondizioni", "effetto");
-    RitraiDialogo("ConfrontoCondSuCol", "spoglio");
+    orologio.start(0);
+    prove::ConFile(Testo(m_Cartella.filePath("colonne.txt")), [this] { sistema().SalvaFileColonneTesto(); });
+    EXPECT_TRUE(bVista);
 }
 
 INSTANTIATE_TEST_SUITE_P(Tavolozze, Schermate, testing::Bool(), [](const testing::TestParamInfo<bool>& p) {

@@ -112,6 +112,7 @@ AnteprimaCondizioni::AnteprimaCondizioni(QWidget* padre) : QTableView(padre), m_
     setCornerButtonEnabled(false);
     horizontalHeader()->setHighlightSections(false);
     verticalHeader()->setHighlightSections(false);
+    verticalHeader()->setDefaultAlignment(Qt::AlignCenter);
     setHorizontalScrollMode(ScrollPerPixel);
     setVerticalScrollMode(ScrollPerPixel);
     const QFontMetrics lettere(CarattereCelle(false));

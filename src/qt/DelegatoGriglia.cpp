@@ -72,9 +72,9 @@ void DelegatoGriglia::paint(QPainter* penna, const QStyleOptionViewItem& opzioni
     penna->save();
     penna->setClipRect(opzioni.rect);
     const QVariant sfondo = indice.data(Qt::BackgroundRole);
-    if (sfondo.isValid()) {
-        penna->fillRect(opzioni.rect, sfondo.value<QColor>());
-    }
+    // Also where there is none of its own: the view has painted the current cell as selected.
+    penna->fillRect(opzioni.rect,
+                    sfondo.isValid() ? sfondo.value<QColor>() : opzioni.palette.color(QPalette::Base));
     const QVariant tinta = indice.data(Qt::ForegroundRole);
     const bool bAbilitata = opzioni.state.testFlag(QStyle::State_Enabled);
     const auto gruppo = bAbilitata ? QPalette::Active : QPalette::Disabled;

@@ -23,7 +23,7 @@ F_EffettoCondVista::F_EffettoCondVista(F_EffettoCond& dialogo, PiattaformaQt& pi
         this));
     AggiungiChiudi(dialogo, tutto);
     const int nSegno = fontMetrics().averageCharWidth();
-    resize(100 * nSegno, 60 * nSegno);
+    resize(120 * nSegno, 60 * nSegno);
 }
 
 } // namespace ordavel::qt

@@ -12,11 +12,17 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollBar>
 #include <QTreeWidget>
+
+#include <algorithm>
 
 namespace ordavel::qt {
 
 namespace {
+
+/// How wide the list of latest draws may make itself.
+constexpr int kLettereUltime = 60;
 
 QString Numeri(const std::vector<std::uint8_t>& aNumeri)
 {
@@ -162,9 +168,13 @@ void F_StatisticaVista::MostraEsito(const F_Statistica& dialogo)
         voce->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
         voce->setToolTip(2, voce->text(2));
     }
+    int nLarga = m_Ultime->verticalScrollBar()->sizeHint().width() + 2 * m_Ultime->frameWidth();
     for (int i = 0; i < m_Ultime->columnCount(); ++i) {
         m_Ultime->resizeColumnToContents(i);
+        nLarga += m_Ultime->columnWidth(i);
     }
+    // Games of ten and more numbers scroll; fewer are seen whole.
+    m_Ultime->setMinimumWidth(std::min(nLarga, kLettereUltime * fontMetrics().averageCharWidth()));
 }
 
 } // namespace ordavel::qt

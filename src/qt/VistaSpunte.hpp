@@ -28,7 +28,7 @@ class VistaSpunte : public QWidget {
 
 public:
     /// How many boxes stand in a line.
-    static constexpr int kPerRiga = 6;
+    static constexpr int kPerRiga = 7;
 
     /// Takes    legami   binds as long as it lives; its dialog owns the series
     ///          sNome    name of the array, "ChkPunti": the box of 3 is "ChkPunti3"
