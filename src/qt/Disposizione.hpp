@@ -11,6 +11,7 @@
 
 #include <QFormLayout>
 #include <QLabel>
+#include <QLabel>
 #include <QString>
 
 #include <initializer_list>

@@ -12,6 +12,7 @@
 
 #include <QPointer>
 
+class QBoxLayout;
 class QFrame;
 
 namespace ordavel::qt {
