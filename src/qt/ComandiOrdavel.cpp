@@ -89,7 +89,7 @@ constexpr std::array kMenu = std::to_array<RigaMenu>({
     {"",            ""},
     {"",            "InsCondizioni"},
     {"",            "SalvaCondizioni"},
-    {"S&viluppo",   "SviluppaCond"},
+    {"Svi&luppo",   "SviluppaCond"},
     {"",            "FiltraSvilPrec"},
     {"",            "FiltraFileCol"},
     {"",            "Stop"},

@@ -30,6 +30,12 @@ bool Salva(const QString& sChiave)
     return sChiave == "Save" || sChiave == "Salva" || sChiave == "SalvaConNome";
 }
 
+/// The commands to which it matters what has changed.
+bool ChiedeDelleModifiche(const QString& sChiave)
+{
+    return sChiave == "Open" || sChiave == "New" || Salva(sChiave);
+}
+
 } // namespace
 
 OrdavelWidget::Privato::Privato(OrdavelWidget& widget)
@@ -147,13 +153,30 @@ QFrame* OrdavelWidget::Privato::NuovoPannelloNumeri()
     // The frame is shown and hidden, with all that is in it.
     vista->show();
     pannello->hide();
-    m_Legami.Segui(numeri.Visibile, pannello, [pannello, vista](bool bVisibile) {
+    m_Legami.Segui(numeri.Visibile, pannello, [this, pannello, vista](bool bVisibile) {
+        // Left to itself the keyboard would go to whatever comes next.
+        if (!bVisibile && pannello->isAncestorOf(m_Widget.window()->focusWidget())) {
+            m_Griglia->setFocus();
+        }
         pannello->setVisible(bVisibile);
         if (bVisibile) {
+            m_aNumeriNoti = m_Ordavel.Controlli().SelnovoNumeri1.Scelti.Valore();
             vista->setFocus();
+        } else {
+            ConfermaNumeri();
         }
     });
     return pannello;
+}
+
+/// Numbers that were chosen count as a change however the selector is left, not by its own button alone.
+void OrdavelWidget::Privato::ConfermaNumeri()
+{
+    const auto& aNumeri = m_Ordavel.Controlli().SelnovoNumeri1.Scelti.Valore();
+    if (aNumeri.aElementi != m_aNumeriNoti.aElementi) {
+        m_aNumeriNoti = aNumeri;
+        m_Ordavel.SelnovoNumeri1_Chiuso();
+    }
 }
 
 void OrdavelWidget::Privato::CollegaEventi()
@@ -166,7 +189,12 @@ void OrdavelWidget::Privato::CollegaEventi()
         sTipogioco = Testo(sGioco);
     };
     eventi.PropertyChanged = [this](std::string_view sProprieta) { PropertyChanged(sProprieta); };
-    connect(&m_Comandi, &ComandiOrdavel::inizia, this, [this] { m_Annullamenti.Controlla(); });
+    connect(&m_Comandi, &ComandiOrdavel::inizia, this, [this](const QString& sChiave) {
+        if (m_Ordavel.Controlli().SelnovoNumeri1.Visibile.Valore() && ChiedeDelleModifiche(sChiave)) {
+            ConfermaNumeri();
+        }
+        m_Annullamenti.Controlla();
+    });
     connect(&m_Comandi, &ComandiOrdavel::eseguito, this, &Privato::ComandoEseguito);
     // Whatever has changed while events ran is seen when they pause, and when a loop that never pauses turns; nothing
     // else has to tell.
@@ -198,6 +226,9 @@ void OrdavelWidget::Privato::Controlla()
 void OrdavelWidget::Privato::ComandoEseguito(const QString& sChiave)
 {
     const bool bModificato = m_Ordavel.Modificato();
+    if (sChiave == "Open" || sChiave == "New") {
+        m_aNumeriNoti = m_Ordavel.Controlli().SelnovoNumeri1.Scelti.Valore();
+    }
     if (sChiave == "Open" && !bModificato) {
         m_Annullamenti.Ricomincia();
     } else if (sChiave == "New" && m_Ordavel.FileSistema().empty() &&

@@ -53,12 +53,15 @@ private:
     void Disponi();
     void DisponiGriglia(QBoxLayout* colonna);
     [[nodiscard]] QFrame* NuovoPannelloNumeri();
+    void ConfermaNumeri();
     void CollegaEventi();
     void CreaAnnulla();
     void Controlla();
     void ComandoEseguito(const QString& sChiave);
     void PropertyChanged(std::string_view sProprieta);
 
+    Tabella<std::uint8_t, 1, kNumeroMassimo>
+        m_aNumeriNoti; ///< those that were no change when the selector was shown
     QString m_sFileNoto;
     bool m_bModificatoNoto = false;
     bool m_bCorsaNota = false;
