@@ -120,6 +120,14 @@ TEST_F(FinestraProva, SenzaModificheSiChiudeSenzaDomande)
     EXPECT_TRUE(Finestra().close());
 }
 
+TEST_F(FinestraProva, INumeriCheSiStannoScegliendoNonSiPerdonoChiudendo)
+{
+    Finestra().findChild<QAction*>("SelNumeri")->trigger();
+    Componente().SelezionaNumero(7, true);
+    EXPECT_FALSE(Chiudi("&Annulla"));
+    EXPECT_TRUE(Componente().Modificato());
+}
+
 TEST_F(FinestraProva, AnnullaLasciaTuttoCosi)
 {
     const QString sFile = NuovoSistema("uno.sic");
@@ -320,8 +328,13 @@ TEST_F(FinestraProva, IlManualeSiApreUnaVoltaSola)
 
 TEST_F(FinestraProva, OgniVoceDiMenuHaIlSuoTastoMnemonico)
 {
+    QString sLettere;
     for (const QAction* titolo : Finestra().menuBar()->actions()) {
-        EXPECT_TRUE(titolo->text().contains(u'&')) << titolo->text().toStdString();
+        const QString sTitolo = titolo->text();
+        EXPECT_TRUE(sTitolo.contains(u'&')) << sTitolo.toStdString();
+        const QString sLettera = sTitolo.mid(sTitolo.indexOf(u'&') + 1, 1).toUpper();
+        EXPECT_FALSE(sLettere.contains(sLettera)) << sTitolo.toStdString();
+        sLettere += sLettera;
     }
     for (const char* sMenu : {"MenuFile", "MenuAiuto"}) {
         for (const QAction* voce : Finestra().findChild<QMenu*>(sMenu)->actions()) {

@@ -9,6 +9,7 @@
 #include "qt/VistaNumeri.hpp"
 
 #include <QAction>
+#include <QComboBox>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
@@ -139,6 +140,60 @@ TEST_F(FacciaProva, INumeriSiScelgonoESiChiudono)
     EXPECT_TRUE(Sistema().Modificato());
     QCoreApplication::processEvents();
     EXPECT_GE(widget.annullamenti()->count(), 1);
+}
+
+TEST_F(FacciaProva, ChiusiINumeriLaTastieraVaAllaGriglia)
+{
+    for (const bool bDallaBarra : {false, true}) {
+        Azione("SelNumeri").trigger();
+        ASSERT_TRUE(Trova<VistaNumeri>(widget, "SelnovoNumeri1").hasFocus());
+        bDallaBarra ? Azione("SelNumeri").trigger() : Clicca(widget, "ChiudiNumeri");
+        EXPECT_TRUE(Trova<VistaGriglia>(widget, "GrdCond").hasFocus());
+    }
+}
+
+TEST_F(FacciaProva, INumeriSceltiContanoAncheSeSiLascianoDallaBarra)
+{
+    Azione("SelNumeri").trigger();
+    Azione("SelNumeri").trigger();
+    EXPECT_FALSE(Sistema().Modificato());
+    Azione("SelNumeri").trigger();
+    Clicca(widget, "TuttiNumeri");
+    EXPECT_FALSE(Sistema().Modificato());
+    Azione("SelNumeri").trigger();
+    EXPECT_TRUE(Sistema().Modificato());
+}
+
+TEST_F(FacciaProva, INumeriCheSiStannoScegliendoSonoUnaModifica)
+{
+    Azione("SelNumeri").trigger();
+    Clicca(widget, "TuttiNumeri");
+    bool bChiesto = false;
+    Rispondi([&](QWidget& domanda) {
+        bChiesto = true;
+        domanda.close();
+    });
+    Azione("New").trigger();
+    EXPECT_TRUE(bChiesto);
+}
+
+TEST_F(FacciaProva, INumeriDiUnSistemaNuovoNonSonoUnaModifica)
+{
+    Sistema().SelezionaNumero(7, true);
+    Azione("SelNumeri").trigger();
+    Azione("New").trigger();
+    EXPECT_TRUE(Trova<VistaNumeri>(widget, "SelnovoNumeri1").isVisible());
+    Azione("SelNumeri").trigger();
+    EXPECT_FALSE(Sistema().Modificato());
+}
+
+TEST_F(FacciaProva, ChiNonENeiNumeriNonPerdeLaTastiera)
+{
+    Azione("SelNumeri").trigger();
+    auto& classe = Trova<QComboBox>(widget, "CmbClasse");
+    classe.setFocus();
+    Azione("SelNumeri").trigger();
+    EXPECT_TRUE(classe.hasFocus());
 }
 
 TEST_F(FacciaProva, IlContoSeguelUtente)

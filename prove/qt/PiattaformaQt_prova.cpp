@@ -5,6 +5,7 @@
 #include "qt/Legami.hpp"
 
 #include <QApplication>
+#include <QCursor>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -109,6 +110,34 @@ TEST_F(PiattaformaQtProva, UnaSceltaDiFileSenzaRispostaEVuota)
                                         sFile = piattaforma.DialogoApri({"Apri", "Tutti|*", "", "", ""});
                                     }));
     EXPECT_TRUE(sFile.empty());
+}
+
+TEST_F(PiattaformaQtProva, ChiAspettaLUtenteNonHaIlPuntatoreOccupato)
+{
+    piattaforma.PuntatoreOccupato(true);
+    piattaforma.PuntatoreOccupato(true);
+    EXPECT_TRUE(Quando<QFileDialog>(
+        [](QFileDialog& finestra) {
+            EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+            finestra.reject();
+        },
+        [&] {
+            piattaforma.DialogoSalva({"Salva", "Tutti|*", "", "", ""});
+        }));
+    EXPECT_TRUE(Quando<QMessageBox>(
+        [](QMessageBox& finestra) {
+            EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+            finestra.close();
+        },
+        [&] {
+            piattaforma.MostraMessaggio({eIcona::avviso, {}, "Avviso", ePulsanti::ok});
+        }));
+    for (int i = 0; i < 2; ++i) {
+        ASSERT_NE(QApplication::overrideCursor(), nullptr);
+        EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::BusyCursor);
+        piattaforma.PuntatoreOccupato(false);
+    }
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
 TEST_F(PiattaformaQtProva, UnFileGiaNominatoNonSiChiede)

@@ -9,6 +9,7 @@
 #include "desktop/ArchivioImpostazioni.hpp"
 #include "persistenza/ModFileSistema.hpp"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QFileInfo>
@@ -224,6 +225,10 @@ bool F_Finestra::PuoChiudersi()
     if (m_Ordavel->inCorso()) {
         ChiediInterruzione();
         return false;
+    }
+    // Numbers that are just being chosen are a change once their selector is left.
+    if (auto* numeri = m_Ordavel->findChild<QAction*>("SelNumeri"); numeri->isChecked()) {
+        numeri->trigger();
     }
     if (!m_Ordavel->componente().Modificato()) {
         return true;

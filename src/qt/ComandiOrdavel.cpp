@@ -89,7 +89,7 @@ constexpr std::array kMenu = std::to_array<RigaMenu>({
     {"",            ""},
     {"",            "InsCondizioni"},
     {"",            "SalvaCondizioni"},
-    {"S&viluppo",   "SviluppaCond"},
+    {"Svi&luppo",   "SviluppaCond"},
     {"",            "FiltraSvilPrec"},
     {"",            "FiltraFileCol"},
     {"",            "Stop"},
@@ -268,6 +268,9 @@ void ComandiOrdavel::RiempiMenu(QMenuBar* barra) const
         const QString sChiave = QString::fromLatin1(riga.sChiave);
         if (*riga.sMenu != '\0') {
             menu = barra->addMenu(QString::fromLatin1(riga.sMenu));
+        }
+        if (menu == nullptr) {
+            continue; // the table begins with a menu
         }
         if (sChiave.isEmpty()) {
             menu->addSeparator();

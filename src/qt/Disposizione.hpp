@@ -11,7 +11,6 @@
 
 #include <QFormLayout>
 #include <QLabel>
-#include <QLabel>
 #include <QString>
 
 #include <initializer_list>

@@ -23,6 +23,16 @@
 
 namespace ordavel::qt {
 
+namespace {
+
+/// The commands to which it matters what has changed.
+bool ChiedeDelleModifiche(const QString& sChiave)
+{
+    return QStringList{"Open", "New", "Save", "Salva", "SalvaConNome"}.contains(sChiave);
+}
+
+} // namespace
+
 OrdavelWidget::Privato::Privato(OrdavelWidget& widget)
     : m_Widget(widget),
       m_Piattaforma(&widget,
@@ -138,13 +148,30 @@ QFrame* OrdavelWidget::Privato::NuovoPannelloNumeri()
     // The frame is shown and hidden, with all that is in it.
     vista->show();
     pannello->hide();
-    m_Legami.Segui(numeri.Visibile, pannello, [pannello, vista](bool bVisibile) {
+    m_Legami.Segui(numeri.Visibile, pannello, [this, pannello, vista](bool bVisibile) {
+        // Left to itself the keyboard would go to whatever comes next.
+        if (!bVisibile && pannello->isAncestorOf(m_Widget.window()->focusWidget())) {
+            m_Griglia->setFocus();
+        }
         pannello->setVisible(bVisibile);
         if (bVisibile) {
+            m_aNumeriNoti = m_Ordavel.Controlli().SelnovoNumeri1.Scelti.Valore();
             vista->setFocus();
+        } else {
+            ConfermaNumeri();
         }
     });
     return pannello;
+}
+
+/// Numbers that were chosen count as a change however the selector is left, not by its own button alone.
+void OrdavelWidget::Privato::ConfermaNumeri()
+{
+    const auto& aNumeri = m_Ordavel.Controlli().SelnovoNumeri1.Scelti.Valore();
+    if (aNumeri.aElementi != m_aNumeriNoti.aElementi) {
+        m_aNumeriNoti = aNumeri;
+        m_Ordavel.SelnovoNumeri1_Chiuso();
+    }
 }
 
 void OrdavelWidget::Privato::CollegaEventi()
@@ -157,7 +184,12 @@ void OrdavelWidget::Privato::CollegaEventi()
         sTipogioco = Testo(sGioco);
     };
     eventi.PropertyChanged = [this](std::string_view sProprieta) { PropertyChanged(sProprieta); };
-    connect(&m_Comandi, &ComandiOrdavel::inizia, this, &Privato::SeguiSistema);
+    connect(&m_Comandi, &ComandiOrdavel::inizia, this, [this](const QString& sChiave) {
+        if (m_Ordavel.Controlli().SelnovoNumeri1.Visibile.Valore() && ChiedeDelleModifiche(sChiave)) {
+            ConfermaNumeri();
+        }
+        SeguiSistema();
+    });
     connect(&m_Comandi, &ComandiOrdavel::eseguito, this, &Privato::Controlla);
     // Whatever has changed while events ran is seen when they pause, and when a loop that never pauses turns; nothing
     // else has to tell.
@@ -189,6 +221,7 @@ void OrdavelWidget::Privato::Controlla()
 void OrdavelWidget::Privato::SeguiSistema()
 {
     if (std::exchange(m_nSistemi, m_Ordavel.Sistemi()) != m_Ordavel.Sistemi()) {
+        m_aNumeriNoti = m_Ordavel.Controlli().SelnovoNumeri1.Scelti.Valore();
         m_Annullamenti.Ricomincia();
     }
     m_Annullamenti.Controlla();

@@ -54,6 +54,7 @@ private:
     void Disponi();
     void DisponiGriglia(QBoxLayout* colonna);
     [[nodiscard]] QFrame* NuovoPannelloNumeri();
+    void ConfermaNumeri();
     void CollegaEventi();
     void CreaAnnulla();
     void Controlla();
@@ -62,6 +63,8 @@ private:
 
     std::uint32_t m_nSistemi = 0;
     std::uint32_t m_nSalvataggi = 0;
+    Tabella<std::uint8_t, 1, kNumeroMassimo>
+        m_aNumeriNoti; ///< those that were no change when the selector was shown
     QString m_sFileNoto;
     bool m_bModificatoNoto = false;
     bool m_bCorsaNota = false;

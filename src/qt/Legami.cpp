@@ -56,6 +56,7 @@ private:
 std::vector<bool> SceltiDi(const QListWidget& lista)
 {
     std::vector<bool> aScelte;
+    aScelte.reserve(static_cast<std::size_t>(lista.count()));
     for (int i = 0; i < lista.count(); ++i) {
         aScelte.push_back(lista.item(i)->isSelected());
     }

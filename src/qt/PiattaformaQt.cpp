@@ -9,9 +9,11 @@
 #include "qt/VistaDialogo.hpp"
 
 #include <QApplication>
+#include <QCursor>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontMetricsF>
+#include <QList>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTime>
@@ -29,12 +31,36 @@ constexpr std::array kIcone = {QMessageBox::NoIcon, QMessageBox::Critical, QMess
 QString FiltroQt(std::string_view sFiltro)
 {
     const auto nBarra = sFiltro.find('|');
-    const QString sDescrizione = Testo(sFiltro.substr(0, nBarra));
+    QString sDescrizione = Testo(sFiltro.substr(0, nBarra));
     if (nBarra == std::string_view::npos || sDescrizione.contains("(*")) {
         return sDescrizione;
     }
     return sDescrizione + " (" + Testo(sFiltro.substr(nBarra + 1)) + ")";
 }
+
+/// Whoever waits for the user is not busy: the pointer is its own for so long, whatever runs behind.
+class PuntatoreLibero {
+public:
+    PuntatoreLibero()
+    {
+        for (const QCursor* cursore = QApplication::overrideCursor(); cursore != nullptr;
+             cursore = QApplication::overrideCursor()) {
+            m_aTolti.append(*cursore);
+            QApplication::restoreOverrideCursor();
+        }
+    }
+    PuntatoreLibero(const PuntatoreLibero&) = delete;
+    PuntatoreLibero& operator=(const PuntatoreLibero&) = delete;
+    ~PuntatoreLibero()
+    {
+        while (!m_aTolti.isEmpty()) {
+            QApplication::setOverrideCursor(m_aTolti.takeLast());
+        }
+    }
+
+private:
+    QList<QCursor> m_aTolti;
+};
 
 } // namespace
 
@@ -49,7 +75,7 @@ PiattaformaQt::PiattaformaQt(QWidget* padre, FabbricaStatistica statistica)
 PiattaformaQt::~PiattaformaQt()
 {
     for (const auto& [dialogo, vista] : m_aAccanto) {
-        delete vista;
+        delete vista.data();
     }
 }
 
@@ -69,6 +95,7 @@ QWidget* PiattaformaQt::Davanti() const
 
 eRisposta PiattaformaQt::MostraMessaggio(const Messaggio& messaggio)
 {
+    const PuntatoreLibero puntatore;
     QMessageBox finestra(Davanti());
     finestra.setIcon(kIcone.at(static_cast<std::size_t>(messaggio.icona)));
     finestra.setWindowTitle(messaggio.sTitolo.empty() ? QStringLiteral("Ordavel") : Testo(messaggio.sTitolo));
@@ -88,6 +115,7 @@ eRisposta PiattaformaQt::MostraMessaggio(const Messaggio& messaggio)
 
 std::string PiattaformaQt::ChiediFile(const RichiestaFile& richiesta, bool bSalva)
 {
+    const PuntatoreLibero puntatore;
     QFileDialog finestra(Davanti(), Testo(richiesta.sTitolo));
     finestra.setAcceptMode(bSalva ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     finestra.setFileMode(bSalva ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
