@@ -86,7 +86,8 @@ QWidget* PiattaformaQt::Davanti() const
     }
     // A box under a window that stays on top could not be answered.
     for (const auto& [dialogo, vista] : m_aAccanto) {
-        if (vista && vista->isVisible() && vista->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) {
+        if (!vista.isNull() && vista->isVisible() &&
+            vista->windowFlags().testFlag(Qt::WindowStaysOnTopHint)) {
             return vista;
         }
     }
