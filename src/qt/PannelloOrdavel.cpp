@@ -22,6 +22,13 @@ namespace {
 constexpr int kSpazio = 14;
 constexpr int kLatoColore = 14;
 
+/// A caption of the system's own with its letter, one that no menu of a host is likely to have.
+QString ConMnemonica(std::string_view sDidascalia, char cLettera)
+{
+    const QString sTesto = Testo(sDidascalia);
+    return QString(sTesto).insert(sTesto.indexOf(QLatin1Char(cLettera)), u'&');
+}
+
 /// A caption and what it names, side by side and not torn apart.
 QWidget* Coppia(const QString& sDidascalia, QWidget* widget, QWidget* padre)
 {
@@ -88,10 +95,11 @@ PannelloClasse::PannelloClasse(ControlliOrdavel& controlli, Legami& legami, QWid
         const char* sNome;
         QString sDidascalia;
     };
-    for (const Voce& voce : {Voce{controlli.CmbTipoGioco, "CmbTipoGioco", "&Gioco"},
-                             Voce{controlli.CmbClasse, "CmbClasse", Testo(kTestoClasse)},
-                             Voce{controlli.CmbRid, "CmbRid", Testo(kTestoRid)},
-                             Voce{controlli.CmbMotSviluppo, "CmbMotSviluppo", Testo(kTestoMotore)}}) {
+    for (const Voce& voce :
+         {Voce{controlli.CmbTipoGioco, "CmbTipoGioco", "&Gioco"},
+          Voce{controlli.CmbClasse, "CmbClasse", ConMnemonica(kTestoClasse, 'e')},
+          Voce{controlli.CmbRid, "CmbRid", ConMnemonica(kTestoRid, 'R')},
+          Voce{controlli.CmbMotSviluppo, "CmbMotSviluppo", ConMnemonica(kTestoMotore, 't')}}) {
         riga->addWidget(
             Coppia(voce.sDidascalia, NuovaCombo(voce.combo, voce.sNome, voce.sDidascalia, legami), this));
     }

@@ -21,6 +21,7 @@
 #include <QPrinter>
 #include <QProgressDialog>
 #include <QSaveFile>
+#include <QStandardPaths>
 
 #include <algorithm>
 #include <cerrno>
@@ -222,7 +223,9 @@ void StampaSchedine::ChiediEStampa(QWidget* padre)
 void StampaSchedine::ChiediEStampaPdf(QWidget* padre)
 {
     const QString sNome = QFileInfo(m_sNomeFile).completeBaseName() + ".pdf";
-    QFileDialog finestra(padre, "Schedine in PDF", {}, "Documenti PDF (*.pdf)");
+    QFileDialog finestra(padre, "Schedine in PDF",
+                         QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+                         "Documenti PDF (*.pdf)");
     finestra.setAcceptMode(QFileDialog::AcceptSave);
     finestra.setDefaultSuffix("pdf");
     finestra.selectFile(sNome);
