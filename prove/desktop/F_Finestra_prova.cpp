@@ -128,6 +128,20 @@ TEST_F(FinestraProva, INumeriCheSiStannoScegliendoNonSiPerdonoChiudendo)
     EXPECT_TRUE(Componente().Modificato());
 }
 
+TEST_F(FinestraProva, AncheQuelCheIlComponenteNonContaComeModificaSiChiede)
+{
+    Componente().InsCondizione(TipoCondizione::ponte, "1,2");
+    ASSERT_TRUE(Finestra().Apri(NuovoSistema("uno.sic")));
+    Componente().SetColonnaGrid(1);
+    Finestra().findChild<QAction*>("Inserisci")->trigger();
+    ASSERT_FALSE(Componente().Modificato());
+    EXPECT_TRUE(Finestra().isWindowModified());
+    EXPECT_FALSE(Chiudi("&Annulla"));
+    Finestra().findChild<QAction*>("Annulla")->trigger();
+    EXPECT_FALSE(Finestra().isWindowModified());
+    EXPECT_TRUE(Finestra().close());
+}
+
 TEST_F(FinestraProva, AnnullaLasciaTuttoCosi)
 {
     const QString sFile = NuovoSistema("uno.sic");

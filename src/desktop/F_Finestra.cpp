@@ -19,6 +19,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QTimer>
+#include <QUndoStack>
 #include <QUrl>
 
 #include <algorithm>
@@ -83,6 +84,7 @@ F_Finestra::F_Finestra(ArchivioImpostazioni& archivio)
     setAcceptDrops(true);
     CreaMenu();
     m_Legami.Al(m_Ordavel, &OrdavelWidget::sistemaCambiato, [this] { SistemaCambiato(); });
+    m_Legami.Al(m_Ordavel->annullamenti(), &QUndoStack::cleanChanged, [this] { SistemaCambiato(); });
     m_Legami.Al(m_Ordavel, &OrdavelWidget::inCorsoChanged,
                 [this](bool bInCorso) { CorsaCambiata(bInCorso); });
     m_Legami.Al(m_Ordavel, &OrdavelWidget::stampaSk,
@@ -161,7 +163,7 @@ void F_Finestra::SistemaCambiato()
 {
     const Ordavel& componente = m_Ordavel->componente();
     setWindowTitle(NomeSistema() + QStringLiteral("[*] - Ordavel"));
-    setWindowModified(componente.Modificato());
+    setWindowModified(DaSalvare());
     const QString sFile = Testo(componente.FileSistema());
     if (sFile != m_sUltimo && !componente.Modificato() && EUnSistema(sFile)) {
         m_sUltimo = sFile;
@@ -230,11 +232,16 @@ bool F_Finestra::PuoChiudersi()
     if (auto* numeri = m_Ordavel->findChild<QAction*>("SelNumeri"); numeri->isChecked()) {
         numeri->trigger();
     }
-    if (!m_Ordavel->componente().Modificato()) {
+    if (!DaSalvare()) {
         return true;
     }
     const eChiusura risposta = ChiediChiusura();
     return risposta == eChiusura::nonSalvare || (risposta == eChiusura::salva && Salva());
+}
+
+bool F_Finestra::DaSalvare() const
+{
+    return m_Ordavel->componente().Modificato() || !m_Ordavel->annullamenti()->isClean();
 }
 
 F_Finestra::eChiusura F_Finestra::ChiediChiusura()

@@ -70,6 +70,9 @@ private:
     [[nodiscard]] QString NomeSistema() const;
 
     [[nodiscard]] bool PuoChiudersi();
+    /// Would anything be lost? Some edits do not count as a change for the component, such as an empty row that was put
+    /// in or a run of conditions that was deleted; they can be undone, and so they are told.
+    [[nodiscard]] bool DaSalvare() const;
     [[nodiscard]] eChiusura ChiediChiusura();
     [[nodiscard]] bool Salva();
     void ChiediInterruzione();
