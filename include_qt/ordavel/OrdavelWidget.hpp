@@ -63,6 +63,7 @@ public:
     [[nodiscard]] Ordavel& componente() const;
 
     /// Every change of conditions, numbers and board, one step each; clean when the system is as it was saved.
+    /// During a run nothing can be undone.
     [[nodiscard]] QUndoStack* annullamenti() const;
 
     /// Adds the menus of the component to a host's menu bar: every command of the toolbar, with its keys.

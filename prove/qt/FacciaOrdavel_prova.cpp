@@ -253,6 +253,7 @@ TEST_F(FacciaProva, StopFermaUnoSviluppoInCorso)
             domanda != nullptr && domanda->text() == "Interrompere ?") {
             bChiesto = true;
             EXPECT_FALSE(Azione("Open").isEnabled());
+            EXPECT_FALSE(Azione("Annulla").isEnabled());
             QTest::keyClick(domanda, Qt::Key_S, Qt::AltModifier);
             return;
         }
@@ -264,6 +265,8 @@ TEST_F(FacciaProva, StopFermaUnoSviluppoInCorso)
     EXPECT_TRUE(Sistema().UltimoSviluppo().bStopSviluppo);
     EXPECT_FALSE(Azione("Stop").isEnabled());
     EXPECT_TRUE(Azione("Open").isEnabled());
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(Azione("Annulla").isEnabled());
 }
 
 TEST_F(FacciaProva, SalvareRendePulitoIlRegistroDegliAnnullamenti)

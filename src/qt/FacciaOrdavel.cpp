@@ -203,6 +203,9 @@ void OrdavelWidget::Privato::Controlla()
 {
     if (m_bCorsaNota != m_Ordavel.InCorso()) {
         m_bCorsaNota = m_Ordavel.InCorso();
+        // A run keeps its content; a step back would be counted and not made.
+        m_Comandi.Azione("Annulla")->setEnabled(!m_bCorsaNota && m_Annullamenti.Pila()->canUndo());
+        m_Comandi.Azione("Ripeti")->setEnabled(!m_bCorsaNota && m_Annullamenti.Pila()->canRedo());
         Q_EMIT m_Widget.inCorsoChanged(m_bCorsaNota);
     }
     SeguiSistema();

@@ -35,14 +35,16 @@ void MostraWidget(QWidget* widget, bool bVisibile)
     }
 }
 
-/// Lets only the keys through that a box for figures takes.
+/// Lets only the keys through that a box for figures takes, as long as the box is there.
 class FiltroCifre : public QObject {
 public:
-    FiltroCifre(const CasellaTesto& casella, QObject* padre) : QObject(padre), m_Casella(casella) {}
+    FiltroCifre(const Legami& legami, const CasellaTesto& casella, QObject* padre)
+        : QObject(padre), m_Legami(&legami), m_Casella(casella)
+    {}
 
     bool eventFilter(QObject* /*oggetto*/, QEvent* evento) override
     {
-        if (evento->type() != QEvent::KeyPress) {
+        if (evento->type() != QEvent::KeyPress || m_Legami.isNull() || m_Legami->Tagliati()) {
             return false;
         }
         const QString sTasto = static_cast<QKeyEvent*>(evento)->text();
@@ -50,6 +52,7 @@ public:
     }
 
 private:
+    QPointer<const Legami> m_Legami;
     const CasellaTesto& m_Casella;
 };
 
@@ -125,7 +128,7 @@ void Legami::collega(Pulsante& pulsante, QAbstractButton* widget)
 void Legami::collega(CasellaTesto& casella, QLineEdit* widget)
 {
     collega(static_cast<Controllo&>(casella), widget);
-    widget->installEventFilter(new FiltroCifre(casella, widget));
+    widget->installEventFilter(new FiltroCifre(*this, casella, widget));
     // A text that is there already is not set again, which would move the cursor.
     Segui(casella.Testo, widget, [widget](const std::string& s) {
         if (widget->text() != Testo(s)) {

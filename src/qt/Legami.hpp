@@ -58,6 +58,7 @@ public:
 
     /// Ends all bindings at once: nothing bound is touched any more.
     void Taglia();
+    [[nodiscard]] bool Tagliati() const noexcept { return m_bTagliati; }
 
     /// Runs something that the user asked for; what it fails with is shown.
     /// Gives    whether it came to its end
