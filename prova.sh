@@ -29,7 +29,7 @@ formato() {
 flusso() {
     # Ninja does not know that the verdicts of clang-tidy depend on its own files.
     if [[ $1 == tidy* && -e build/$1/CMakeCache.txt ]] &&
-        [[ -n $(find .clang-tidy prove/.clang-tidy -newer "build/$1/CMakeCache.txt") ]]; then
+        [[ -n $(find .clang-tidy prove/.clang-tidy src/qt/.clang-tidy src/desktop/.clang-tidy -newer "build/$1/CMakeCache.txt") ]]; then
         rm -rf "build/$1"
     fi
     cmake --workflow --preset "$1"
