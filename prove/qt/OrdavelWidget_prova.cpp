@@ -182,6 +182,15 @@ TEST_F(OrdavelWidgetProva, UnCambioSegnalaUnaVoltaSola)
     EXPECT_EQ(widget.componente().Controlli().CmbMotSviluppo.Testo(), "Esterno");
 }
 
+TEST_F(OrdavelWidgetProva, IlMotoreSceltoNelPannelloSiSegnala)
+{
+    const QSignalSpy spia(&widget, &OrdavelWidget::motoreSviluppoChanged);
+    widget.componente().Controlli().CmbMotSviluppo.Indice.Poni(1);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(widget.motoreSviluppo(), OrdavelWidget::MotoreSviluppo::esterno);
+    EXPECT_EQ(spia.count(), 1);
+}
+
 TEST_F(OrdavelWidgetProva, LaCartellaSiCreaEDaIlNomeAlFileDiLavoro)
 {
     const QSignalSpy spia(&widget, &OrdavelWidget::percorsoTempChanged);

@@ -2,14 +2,10 @@
 
 #include "desktop/ArchivioImpostazioni.hpp"
 
-#include "qt/Legami.hpp"
-
 #include <QFile>
 #include <QStandardPaths>
 
 namespace ordavel::desktop {
-
-using qt::Testo;
 
 QString ArchivioImpostazioni::FileUtente()
 {
@@ -23,17 +19,6 @@ ArchivioImpostazioni::ArchivioImpostazioni(const QString& sFile) : m_Impostazion
     if (!Vuoto() && m_Impostazioni.status() == QSettings::FormatError) {
         QFile::copy(sFile, sFile + QStringLiteral(".rovinato"));
     }
-}
-
-std::optional<std::string> ArchivioImpostazioni::Leggi(std::string_view sChiave) const
-{
-    const QVariant valore = m_Impostazioni.value(Testo(sChiave));
-    return valore.isValid() ? std::optional(Testo(valore.toString())) : std::nullopt;
-}
-
-void ArchivioImpostazioni::Scrivi(std::string_view sChiave, const std::string& sValore)
-{
-    m_Impostazioni.setValue(Testo(sChiave), Testo(sValore));
 }
 
 bool ArchivioImpostazioni::Salva()

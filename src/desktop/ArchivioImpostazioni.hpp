@@ -4,6 +4,8 @@
 
 #include "ordavel/ArchivioProprieta.hpp"
 
+#include "qt/ArchivioQSettings.hpp"
+
 #include <QSettings>
 #include <QString>
 #include <QVariant>
@@ -21,8 +23,14 @@ public:
     explicit ArchivioImpostazioni(const QString& sFile);
 
     /// The settings of the component, as texts under their own keys.
-    [[nodiscard]] std::optional<std::string> Leggi(std::string_view sChiave) const override;
-    void Scrivi(std::string_view sChiave, const std::string& sValore) override;
+    [[nodiscard]] std::optional<std::string> Leggi(std::string_view sChiave) const override
+    {
+        return m_Componente.Leggi(sChiave);
+    }
+    void Scrivi(std::string_view sChiave, const std::string& sValore) override
+    {
+        m_Componente.Scrivi(sChiave, sValore);
+    }
 
     /// The settings of the program.
     [[nodiscard]] QVariant Valore(const QString& sChiave) const { return m_Impostazioni.value(sChiave); }
@@ -40,6 +48,7 @@ public:
 
 private:
     QSettings m_Impostazioni;
+    qt::ArchivioQSettings m_Componente{m_Impostazioni};
 };
 
 } // namespace ordavel::desktop

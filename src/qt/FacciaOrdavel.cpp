@@ -208,6 +208,7 @@ void OrdavelWidget::Privato::Controlla()
         m_Comandi.Azione("Ripeti")->setEnabled(!m_bCorsaNota && m_Annullamenti.Pila()->canRedo());
         Q_EMIT m_Widget.inCorsoChanged(m_bCorsaNota);
     }
+    SegnalaMotore();
     SeguiSistema();
     m_Griglia->aggiorna();
     if (!m_bProgetto) {
@@ -218,6 +219,13 @@ void OrdavelWidget::Privato::Controlla()
         m_sFileNoto = sFile;
         m_bModificatoNoto = m_Ordavel.Modificato();
         Q_EMIT m_Widget.sistemaCambiato();
+    }
+}
+
+void OrdavelWidget::Privato::SegnalaMotore()
+{
+    if (std::exchange(m_MotoreNoto, m_Ordavel.MotoreSviluppo()) != m_Ordavel.MotoreSviluppo()) {
+        Q_EMIT m_Widget.motoreSviluppoChanged();
     }
 }
 

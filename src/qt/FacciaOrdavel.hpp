@@ -28,6 +28,9 @@ public:
     /// A command of the host's own, or a member that may fail: what it fails with is shown.
     bool Protetto(const std::function<void()>& azione) const { return m_Legami.Protetto(azione); }
 
+    /// Tells of another engine, whether a property, the panel or the settings have chosen it.
+    void SegnalaMotore();
+
     /// Calls a setter of a folder; in a form editor only remembers what was set.
     void PoniPercorso(QString OrdavelWidget::Privato::*sProgetto, bool (Ordavel::*poni)(const std::string&),
                       const QString& sPercorso, void (OrdavelWidget::*cambiato)());
@@ -67,6 +70,7 @@ private:
         m_aNumeriNoti; ///< those that were no change when the selector was shown
     QString m_sFileNoto;
     bool m_bModificatoNoto = false;
+    eMotoreSviluppo m_MotoreNoto = eMotoreSviluppo::interno;
     bool m_bCorsaNota = false;
 };
 

@@ -133,11 +133,9 @@ OrdavelWidget::MotoreSviluppo OrdavelWidget::motoreSviluppo() const
 
 void OrdavelWidget::setMotoreSviluppo(MotoreSviluppo motore)
 {
-    if (motore != motoreSviluppo()) {
-        m_p->m_Ordavel.PoniMotoreSviluppo(static_cast<eMotoreSviluppo>(motore));
-        m_p->m_Ordavel.SelezionaComboMotSviluppo();
-        Q_EMIT motoreSviluppoChanged();
-    }
+    m_p->m_Ordavel.PoniMotoreSviluppo(static_cast<eMotoreSviluppo>(motore));
+    m_p->m_Ordavel.SelezionaComboMotSviluppo();
+    m_p->SegnalaMotore();
 }
 
 void OrdavelWidget::resetMotoreSviluppo()
